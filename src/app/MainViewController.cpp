@@ -1,0 +1,18 @@
+#include "MainViewController.h"
+
+#include "UserRecord.h"
+
+MainViewController::MainViewController(QObject *parent)
+    : QObject(parent)
+    , m_experienceTotal(totalExperience())
+{
+}
+
+void MainViewController::refresh()
+{
+    const qint64 total = totalExperience();
+    if (total == m_experienceTotal)
+        return;
+    m_experienceTotal = total;
+    Q_EMIT experienceTotalChanged();
+}

@@ -1,0 +1,39 @@
+#include "app/AppDelegate.h"
+#include "content/AppCommon.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TolvanePlugin)
+
+int main(int argc, char *argv[])
+{
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setOrganizationName(QStringLiteral("Tolvane"));
+    QGuiApplication::setApplicationName(QStringLiteral("Tolvane"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Learn everyday German phrases."));
+    parser.addHelpOption();
+    const QCommandLineOption resources(QStringLiteral("resources"),
+                                       QStringLiteral("Course folder (resources.bundle) to use."),
+                                       QStringLiteral("DIR"));
+    parser.addOption(resources);
+    parser.process(app);
+    if (parser.isSet(resources))
+        setResourceRoot(parser.value(resources));
+
+    AppDelegate delegate;
+    delegate.didFinishLaunching();
+
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    QQmlApplicationEngine engine;
+    QObject::connect(
+        &engine, &QQmlApplicationEngine::objectCreationFailed, &app,
+        [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
+    engine.load(QUrl(QStringLiteral("qrc:/Tolvane/Main.qml")));
+    return QGuiApplication::exec();
+}

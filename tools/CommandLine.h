@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QMap>
+#include <QSet>
+#include <QStringList>
+#include <QTextStream>
+
+/// @brief A command's arguments split into positional ones, "--name VALUE" options and flags.
+struct ParsedArguments {
+    QStringList positional;
+    QMap<QString, QString> values;
+    QSet<QString> flags;
+    QString error; ///< set on an unknown option or a missing value
+
+    /// Everything after "--" counts as positional, so a text may start with a dash.
+    static ParsedArguments parse(const QStringList &arguments, const QStringList &valueOptions,
+                                 const QStringList &flagOptions = {});
+};
+
+/// @brief What every sub-command shares: its arguments and the two output streams.
+struct CommandLine {
+    QStringList arguments; ///< after the program and command names
+    QTextStream &out;
+    QTextStream &err;
+
+    /// Prints "tolvane-cli: <message>" and returns the exit code for bad input.
+    int fail(const QString &message) const;
+};
+
+int runContentCommand(const CommandLine &command);
+int runCryptCommand(const CommandLine &command);
+int runWordsCommand(const CommandLine &command);
+int runRecordCommand(const CommandLine &command);

@@ -1,0 +1,90 @@
+#include "CommandLine.h"
+
+#include <QGuiApplication>
+#include <map>
+#include <memory>
+
+namespace {
+
+const char *const usage =
+    "usage: tolvane-cli COMMAND ...\n"
+    "  content list [--resources DIR] [--lang CODE] [--category ID]\n"
+    "  content build SRC OUT\n"
+    "  crypt encipher-plist IN [OUT] [--key KEY]\n"
+    "  crypt decipher-file IN [--key KEY]\n"
+    "  crypt encipher-data IN OUT [--key KEY]\n"
+    "  crypt decipher-data IN OUT [--key KEY]\n"
+    "  words [--upper] TEXT...\n"
+    "  record show [--record FILE]\n";
+
+} // namespace
+
+int CommandLine::fail(const QString &message) const
+{
+    err << "tolvane-cli: " << message << Qt::endl;
+    return 1;
+}
+
+ParsedArguments ParsedArguments::parse(const QStringList &arguments,
+                                       const QStringList &valueOptions,
+                                       const QStringList &flagOptions)
+{
+    ParsedArguments parsed;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments[i];
+        if (argument == QLatin1String("--")) {
+            parsed.positional += arguments.mid(i + 1);
+            break;
+        }
+        if (!argument.startsWith(QLatin1String("--")) || argument.size() == 2) {
+            parsed.positional.append(argument);
+        } else if (flagOptions.contains(argument)) {
+            parsed.flags.insert(argument);
+        } else if (!valueOptions.contains(argument)) {
+            parsed.error = QStringLiteral("unknown option %1").arg(argument);
+            break;
+        } else if (i + 1 == arguments.size()) {
+            parsed.error = QStringLiteral("%1 needs a value").arg(argument);
+            break;
+        } else {
+            parsed.values.insert(argument, arguments[++i]);
+        }
+    }
+    return parsed;
+}
+
+int main(int argc, char *argv[])
+{
+    // The CLI never shows a window, but drawing the course's pictures needs a GUI application;
+    // the other commands stay clear of the windowing system.
+    const bool draws = argc > 2 && qstrcmp(argv[1], "content") == 0 && qstrcmp(argv[2], "build") == 0;
+    if (draws && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const std::unique_ptr<QCoreApplication> app =
+        draws ? std::make_unique<QGuiApplication>(argc, argv)
+              : std::make_unique<QCoreApplication>(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Tolvane"));
+    QCoreApplication::setApplicationName(QStringLiteral("Tolvane"));
+
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.isEmpty() || arguments.first() == QLatin1String("--help")) {
+        (arguments.isEmpty() ? err : out) << usage;
+        return arguments.isEmpty() ? 1 : 0;
+    }
+
+    const std::map<QString, int (*)(const CommandLine &)> commands{
+        {QStringLiteral("content"), runContentCommand},
+        {QStringLiteral("crypt"), runCryptCommand},
+        {QStringLiteral("words"), runWordsCommand},
+        {QStringLiteral("record"), runRecordCommand},
+    };
+    const QString name = arguments.takeFirst();
+    const auto command = commands.find(name);
+    if (command == commands.end()) {
+        err << "tolvane-cli: unknown command \"" << name << "\"\n" << usage;
+        return 1;
+    }
+    return command->second(CommandLine{arguments, out, err});
+}

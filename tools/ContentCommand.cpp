@@ -1,6 +1,5 @@
 #include "CommandLine.h"
 #include "CourseBuilder.h"
-
 #include "content/AppCommon.h"
 
 #include <QCoreApplication>
@@ -8,19 +7,19 @@
 
 namespace {
 
-int listContent(const CommandLine &command, const QStringList &arguments)
-{
-    const ParsedArguments parsed = ParsedArguments::parse(
-        arguments, {QStringLiteral("--resources"), QStringLiteral("--lang"),
-                    QStringLiteral("--category")});
+int listContent(const CommandLine &command, const QStringList &arguments) {
+    const ParsedArguments parsed =
+        ParsedArguments::parse(arguments, {QStringLiteral("--resources"), QStringLiteral("--lang"),
+                                           QStringLiteral("--category")});
     if (!parsed.error.isEmpty())
         return command.fail(parsed.error);
     if (!parsed.positional.isEmpty())
-        return command.fail(QStringLiteral("unexpected argument %1").arg(parsed.positional.first()));
+        return command.fail(
+            QStringLiteral("unexpected argument %1").arg(parsed.positional.first()));
 
-    const QString root = parsed.values.value(
-        QStringLiteral("--resources"),
-        QCoreApplication::applicationDirPath() + QStringLiteral("/resources.bundle"));
+    const QString root =
+        parsed.values.value(QStringLiteral("--resources"), QCoreApplication::applicationDirPath() +
+                                                               QStringLiteral("/resources.bundle"));
     if (!QFileInfo(root).isDir())
         return command.fail(QStringLiteral("no course at %1").arg(root));
     const QString language = parsed.values.value(QStringLiteral("--lang"), defaultLanguageCode());
@@ -49,8 +48,7 @@ int listContent(const CommandLine &command, const QStringList &arguments)
     return 0;
 }
 
-int buildContent(const CommandLine &command, const QStringList &arguments)
-{
+int buildContent(const CommandLine &command, const QStringList &arguments) {
     const ParsedArguments parsed = ParsedArguments::parse(arguments, {});
     if (!parsed.error.isEmpty())
         return command.fail(parsed.error);
@@ -66,8 +64,7 @@ int buildContent(const CommandLine &command, const QStringList &arguments)
 
 } // namespace
 
-int runContentCommand(const CommandLine &command)
-{
+int runContentCommand(const CommandLine &command) {
     const QString action = command.arguments.value(0);
     const QStringList rest = command.arguments.mid(1);
     if (action == QLatin1String("list"))

@@ -22,8 +22,7 @@ struct CourseBuilder::Category {
 
 namespace {
 
-std::optional<QJsonDocument> readJsonFile(const QString &path, QString &error)
-{
+std::optional<QJsonDocument> readJsonFile(const QString &path, QString &error) {
     const auto bytes = VoFileUtil::readFile(path);
     if (!bytes) {
         error = QStringLiteral("cannot read %1").arg(path);
@@ -40,13 +39,11 @@ std::optional<QJsonDocument> readJsonFile(const QString &path, QString &error)
     return document;
 }
 
-bool isInteger(const QJsonValue &value)
-{
+bool isInteger(const QJsonValue &value) {
     return value.isDouble() && value.toDouble() == static_cast<double>(value.toInteger());
 }
 
-QString recipeDigest(const QStringList &parts)
-{
+QString recipeDigest(const QStringList &parts) {
     return QString::fromLatin1(
         QCryptographicHash::hash(parts.join(QChar(0x1f)).toUtf8(), QCryptographicHash::Sha256)
             .toHex());
@@ -56,18 +53,14 @@ QString recipeDigest(const QStringList &parts)
 
 CourseBuilder::CourseBuilder(QString sourceDir, QString outputDir)
     : m_sourceDir(std::move(sourceDir))
-    , m_outputDir(QDir::cleanPath(std::move(outputDir)))
-{
-}
+    , m_outputDir(QDir::cleanPath(std::move(outputDir))) {}
 
-bool CourseBuilder::fail(const QString &message)
-{
+bool CourseBuilder::fail(const QString &message) {
     m_error = message;
     return false;
 }
 
-bool CourseBuilder::readCategory(const QString &folder, Category &category)
-{
+bool CourseBuilder::readCategory(const QString &folder, Category &category) {
     const QDir dir(QDir(m_sourceDir).filePath(folder));
     QString error;
     const auto info = readJsonFile(dir.filePath(QStringLiteral("pkgInfo.json")), error);
@@ -87,7 +80,8 @@ bool CourseBuilder::readCategory(const QString &folder, Category &category)
                         .arg(infoPath));
     category.id = QString::number(category.info.value(QLatin1String("id")).toInteger());
     if (category.id != folder)
-        return fail(QStringLiteral("%1 has id %2 but sits in folder %3").arg(infoPath, category.id, folder));
+        return fail(QStringLiteral("%1 has id %2 but sits in folder %3")
+                        .arg(infoPath, category.id, folder));
 
     const QString phrasesPath = dir.filePath(QStringLiteral("phrases.json"));
     if (!phrases->isArray())
@@ -105,8 +99,7 @@ bool CourseBuilder::readCategory(const QString &folder, Category &category)
 }
 
 bool CourseBuilder::makeFile(const QString &relativePath, const QString &recipe,
-                             const std::function<bool(const QString &)> &make)
-{
+                             const std::function<bool(const QString &)> &make) {
     const QString path = QDir(m_outputDir).filePath(relativePath);
     m_manifest.insert(relativePath, recipe);
     if (m_oldManifest.value(relativePath).toString() == recipe && QFileInfo::exists(path)) {
@@ -120,8 +113,7 @@ bool CourseBuilder::makeFile(const QString &relativePath, const QString &recipe,
     return true;
 }
 
-bool CourseBuilder::writeCategory(const Category &category)
-{
+bool CourseBuilder::writeCategory(const Category &category) {
     const QString folder = QDir(m_outputDir).filePath(category.id);
     QDir().mkpath(folder);
 
@@ -150,9 +142,10 @@ bool CourseBuilder::writeCategory(const Category &category)
         const QString voice = id + QStringLiteral(".mp3");
         voices.insert(voice);
         QString error;
-        if (!makeFile(category.id + QStringLiteral("/voices/") + voice,
-                      recipeDigest({QString::fromLatin1(VoiceSynthesizer::settingsVersion), text}),
-                      [&](const QString &path) { return VoiceSynthesizer::speak(text, path, error); }))
+        if (!makeFile(
+                category.id + QStringLiteral("/voices/") + voice,
+                recipeDigest({QString::fromLatin1(VoiceSynthesizer::settingsVersion), text}),
+                [&](const QString &path) { return VoiceSynthesizer::speak(text, path, error); }))
             return fail(error);
 
         // The same name the app derives from the phrase id.
@@ -172,8 +165,7 @@ bool CourseBuilder::writeCategory(const Category &category)
     return true;
 }
 
-void CourseBuilder::removeUnexpected(const QString &folder, const QSet<QString> &expected)
-{
+void CourseBuilder::removeUnexpected(const QString &folder, const QSet<QString> &expected) {
     const QDir dir(folder);
     for (const QFileInfo &entry :
          dir.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
@@ -186,8 +178,7 @@ void CourseBuilder::removeUnexpected(const QString &folder, const QSet<QString> 
     }
 }
 
-bool CourseBuilder::build()
-{
+bool CourseBuilder::build() {
     const QDir source(m_sourceDir);
     if (!source.exists())
         return fail(QStringLiteral("no course sources at %1").arg(m_sourceDir));
@@ -229,8 +220,7 @@ bool CourseBuilder::build()
     return true;
 }
 
-QString CourseBuilder::summary() const
-{
+QString CourseBuilder::summary() const {
     return QStringLiteral("%1 categories, %2 phrases: %3 files made, %4 unchanged")
         .arg(m_categories)
         .arg(m_phrases)

@@ -1,5 +1,4 @@
 #include "CommandLine.h"
-
 #include "content/VoCryptor.h"
 
 #include <functional>
@@ -16,8 +15,7 @@ struct CryptAction {
 } // namespace
 
 // File forms of the cipher, for preparing content. The key defaults to the course's content key.
-int runCryptCommand(const CommandLine &command)
-{
+int runCryptCommand(const CommandLine &command) {
     const std::map<QString, CryptAction> actions{
         {QStringLiteral("encipher-plist"),
          {1, 2,
@@ -51,7 +49,8 @@ int runCryptCommand(const CommandLine &command)
         return command.fail(QStringLiteral("crypt needs an action"));
     const auto action = actions.find(parsed.positional.first());
     if (action == actions.end())
-        return command.fail(QStringLiteral("unknown crypt action \"%1\"").arg(parsed.positional.first()));
+        return command.fail(
+            QStringLiteral("unknown crypt action \"%1\"").arg(parsed.positional.first()));
     const QStringList paths = parsed.positional.mid(1);
     if (paths.size() < action->second.minPaths || paths.size() > action->second.maxPaths)
         return command.fail(QStringLiteral("wrong number of files for %1").arg(action->first));

@@ -1,10 +1,8 @@
 #include "CommandLine.h"
-
 #include "app/UserRecord.h"
 #include "content/UserInfoFile.h"
 
-int runRecordCommand(const CommandLine &command)
-{
+int runRecordCommand(const CommandLine &command) {
     const ParsedArguments parsed =
         ParsedArguments::parse(command.arguments, {QStringLiteral("--record")});
     if (!parsed.error.isEmpty())
@@ -22,7 +20,8 @@ int runRecordCommand(const CommandLine &command)
         return command.fail(QStringLiteral("the user record at %1 is damaged").arg(file.path()));
     for (const QString &key : initialUserInfo().keys()) {
         if (!record.contains(key))
-            return command.fail(QStringLiteral("the user record at %1 has no \"%2\"").arg(file.path(), key));
+            return command.fail(
+                QStringLiteral("the user record at %1 has no \"%2\"").arg(file.path(), key));
     }
 
     for (auto it = record.cbegin(); it != record.cend(); ++it)

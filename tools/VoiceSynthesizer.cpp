@@ -19,8 +19,7 @@ constexpr double paddingSeconds = 0.25;
 
 } // namespace
 
-bool VoiceSynthesizer::speak(const QString &text, const QString &mp3Path, QString &error)
-{
+bool VoiceSynthesizer::speak(const QString &text, const QString &mp3Path, QString &error) {
     QTemporaryDir scratch;
     const QString wavPath = scratch.filePath(QStringLiteral("voice.wav"));
     QProcess espeak;
@@ -59,7 +58,8 @@ bool VoiceSynthesizer::speak(const QString &text, const QString &mp3Path, QStrin
         const SndfilePtr output(
             sf_open(QFile::encodeName(partPath).constData(), SFM_WRITE, &outputInfo));
         if (!output) {
-            error = QStringLiteral("cannot write %1: %2").arg(partPath, QString::fromUtf8(sf_strerror(nullptr)));
+            error = QStringLiteral("cannot write %1: %2")
+                        .arg(partPath, QString::fromUtf8(sf_strerror(nullptr)));
             return false;
         }
         double quality = 0.4; // variable bit rate, compression level 0 (best) .. 1 (smallest)

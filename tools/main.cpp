@@ -6,29 +6,26 @@
 
 namespace {
 
-const char *const usage =
-    "usage: tolvane-cli COMMAND ...\n"
-    "  content list [--resources DIR] [--lang CODE] [--category ID]\n"
-    "  content build SRC OUT\n"
-    "  crypt encipher-plist IN [OUT] [--key KEY]\n"
-    "  crypt decipher-file IN [--key KEY]\n"
-    "  crypt encipher-data IN OUT [--key KEY]\n"
-    "  crypt decipher-data IN OUT [--key KEY]\n"
-    "  words [--upper] TEXT...\n"
-    "  record show [--record FILE]\n";
+const char *const usage = "usage: tolvane-cli COMMAND ...\n"
+                          "  content list [--resources DIR] [--lang CODE] [--category ID]\n"
+                          "  content build SRC OUT\n"
+                          "  crypt encipher-plist IN [OUT] [--key KEY]\n"
+                          "  crypt decipher-file IN [--key KEY]\n"
+                          "  crypt encipher-data IN OUT [--key KEY]\n"
+                          "  crypt decipher-data IN OUT [--key KEY]\n"
+                          "  words [--upper] TEXT...\n"
+                          "  record show [--record FILE]\n";
 
 } // namespace
 
-int CommandLine::fail(const QString &message) const
-{
+int CommandLine::fail(const QString &message) const {
     err << "tolvane-cli: " << message << Qt::endl;
     return 1;
 }
 
 ParsedArguments ParsedArguments::parse(const QStringList &arguments,
                                        const QStringList &valueOptions,
-                                       const QStringList &flagOptions)
-{
+                                       const QStringList &flagOptions) {
     ParsedArguments parsed;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments[i];
@@ -53,11 +50,11 @@ ParsedArguments ParsedArguments::parse(const QStringList &arguments,
     return parsed;
 }
 
-int main(int argc, char *argv[])
-{
+int main(int argc, char *argv[]) {
     // The CLI never shows a window, but drawing the course's pictures needs a GUI application;
     // the other commands stay clear of the windowing system.
-    const bool draws = argc > 2 && qstrcmp(argv[1], "content") == 0 && qstrcmp(argv[2], "build") == 0;
+    const bool draws =
+        argc > 2 && qstrcmp(argv[1], "content") == 0 && qstrcmp(argv[2], "build") == 0;
     if (draws && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::unique_ptr<QCoreApplication> app =

@@ -2,4 +2,6 @@
 
 #include "content/VoAppCommon.h"
 
-QColor AppColors::body() { return VoAppCommon::getBodyBgColor(); }
+QColor AppColors::body() {
+    return VoAppCommon::getBodyBgColor();
+}

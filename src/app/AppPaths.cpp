@@ -7,15 +7,18 @@
 
 namespace AppPaths {
 
-QString documentsFolder() { return VoFileUtil::getDocumentsDirectory(); }
+QString documentsFolder() {
+    return VoFileUtil::getDocumentsDirectory();
+}
 
-QString recordFolder()
-{
+QString recordFolder() {
     const QString folder = documentsFolder() + QStringLiteral("record/");
     QDir().mkpath(folder);
     return folder;
 }
 
-QString userInfoPath() { return UserInfoFile().path(); }
+QString userInfoPath() {
+    return UserInfoFile().path();
+}
 
 } // namespace AppPaths

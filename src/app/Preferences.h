@@ -19,8 +19,10 @@ class Preferences : public QObject {
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(float playSpeed READ playSpeed WRITE setPlaySpeed NOTIFY playSpeedChanged)
-    Q_PROPERTY(float testDuration READ testDuration WRITE setTestDuration NOTIFY testDurationChanged)
-    Q_PROPERTY(QString languageType READ languageType WRITE setLanguageType NOTIFY languageTypeChanged)
+    Q_PROPERTY(
+        float testDuration READ testDuration WRITE setTestDuration NOTIFY testDurationChanged)
+    Q_PROPERTY(
+        QString languageType READ languageType WRITE setLanguageType NOTIFY languageTypeChanged)
 
 public:
     static inline const QString playSpeedKey = QStringLiteral("playSpeed");

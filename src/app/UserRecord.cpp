@@ -19,8 +19,7 @@ const std::array<std::pair<const QString *, qint64>, 8> experienceWeights{{
 }};
 } // namespace
 
-QVariantMap initialUserInfo()
-{
+QVariantMap initialUserInfo() {
     QVariantMap record;
     for (const QString *key :
          {&UserInfoKey::reviewed, &UserInfoKey::advised, &UserInfoKey::shared,
@@ -31,8 +30,7 @@ QVariantMap initialUserInfo()
     return record;
 }
 
-qint64 totalExperience(const QVariantMap &record)
-{
+qint64 totalExperience(const QVariantMap &record) {
     qint64 total = 0;
     for (const auto &[key, weight] : experienceWeights) {
         qint64 points = 0;
@@ -43,9 +41,10 @@ qint64 totalExperience(const QVariantMap &record)
     return total;
 }
 
-qint64 totalExperience() { return totalExperience(readUserInfo()); }
+qint64 totalExperience() {
+    return totalExperience(readUserInfo());
+}
 
-void recordQuizResult(int score)
-{
+void recordQuizResult(int score) {
     UserInfoFile().add({{UserInfoKey::quizCount, 1}, {UserInfoKey::quizTotalScore, score}});
 }

@@ -17,7 +17,7 @@ public:
     BaseItemInfo(const BaseItemInfo &) = delete;
     BaseItemInfo &operator=(const BaseItemInfo &) = delete;
 
-    QString id;                  ///< decimal text of the integer id in the content files
+    QString id;                   ///< decimal text of the integer id in the content files
     QMap<QString, QString> trans; ///< language code to text; empty when the file gives none
 
 protected:

@@ -9,19 +9,16 @@
 #include <QFileInfo>
 
 UserInfoFile::UserInfoFile()
-    : UserInfoFile(VoFileUtil::getDocumentsDirectory() + QStringLiteral("userInfo.plist"))
-{
-}
+    : UserInfoFile(VoFileUtil::getDocumentsDirectory() + QStringLiteral("userInfo.plist")) {}
 
 UserInfoFile::UserInfoFile(QString path)
-    : m_path(std::move(path))
-{
+    : m_path(std::move(path)) {}
+
+bool UserInfoFile::exists() const {
+    return QFileInfo::exists(m_path);
 }
 
-bool UserInfoFile::exists() const { return QFileInfo::exists(m_path); }
-
-QVariantMap UserInfoFile::read() const
-{
+QVariantMap UserInfoFile::read() const {
     auto bytes = VoFileUtil::readFile(m_path);
     auto cipher = bytes ? TextHelpers::fromUtf8Strict(*bytes) : std::nullopt;
     auto plain = cipher ? VoCryptor::decryptWithDES(*cipher, VoCryptor::recordKey) : std::nullopt;
@@ -30,15 +27,13 @@ QVariantMap UserInfoFile::read() const
     return PlistCodec::dictionaryFromBytes(plain->toUtf8()).value_or(QVariantMap());
 }
 
-bool UserInfoFile::write(const QVariantMap &dictionary) const
-{
+bool UserInfoFile::write(const QVariantMap &dictionary) const {
     const QString plain = QString::fromUtf8(PlistCodec::toXml(dictionary));
     return VoFileUtil::writeFileAtomically(
         m_path, VoCryptor::encryptWithDES(plain, VoCryptor::recordKey).toUtf8());
 }
 
-qint64 UserInfoFile::intFrom(const QVariantMap &dictionary, const QString &key)
-{
+qint64 UserInfoFile::intFrom(const QVariantMap &dictionary, const QString &key) {
     const auto it = dictionary.constFind(key);
     if (it == dictionary.cend())
         fatal(appCommonSource, __LINE__,
@@ -51,17 +46,17 @@ qint64 UserInfoFile::intFrom(const QVariantMap &dictionary, const QString &key)
     return value;
 }
 
-qint64 UserInfoFile::intValue(const QString &key) const { return intFrom(read(), key); }
+qint64 UserInfoFile::intValue(const QString &key) const {
+    return intFrom(read(), key);
+}
 
-void UserInfoFile::setInt(const QString &key, qint64 value) const
-{
+void UserInfoFile::setInt(const QString &key, qint64 value) const {
     QVariantMap dictionary = read();
     dictionary.insert(key, value);
     write(dictionary);
 }
 
-void UserInfoFile::add(std::initializer_list<std::pair<QString, qint64>> amounts) const
-{
+void UserInfoFile::add(std::initializer_list<std::pair<QString, qint64>> amounts) const {
     QVariantMap dictionary = read();
     for (const auto &[key, amount] : amounts) {
         qint64 sum = 0;
@@ -73,8 +68,18 @@ void UserInfoFile::add(std::initializer_list<std::pair<QString, qint64>> amounts
     write(dictionary);
 }
 
-QVariantMap readUserInfo() { return UserInfoFile().read(); }
-bool writeUserInfo(const QVariantMap &dictionary) { return UserInfoFile().write(dictionary); }
-qint64 userInfoInt(const QString &key) { return UserInfoFile().intValue(key); }
-void setUserInfoInt(const QString &key, qint64 value) { UserInfoFile().setInt(key, value); }
-void incrementUserInfoCounter(const QString &key) { UserInfoFile().increment(key); }
+QVariantMap readUserInfo() {
+    return UserInfoFile().read();
+}
+bool writeUserInfo(const QVariantMap &dictionary) {
+    return UserInfoFile().write(dictionary);
+}
+qint64 userInfoInt(const QString &key) {
+    return UserInfoFile().intValue(key);
+}
+void setUserInfoInt(const QString &key, qint64 value) {
+    UserInfoFile().setInt(key, value);
+}
+void incrementUserInfoCounter(const QString &key) {
+    UserInfoFile().increment(key);
+}

@@ -9,7 +9,8 @@
 
 Q_IMPORT_QML_PLUGIN(TolvanePlugin)
 
-int main(int argc, char *argv[]) {
+int main(int argc, char *argv[])
+{
     QGuiApplication app(argc, argv);
     QGuiApplication::setOrganizationName(QStringLiteral("Tolvane"));
     QGuiApplication::setApplicationName(QStringLiteral("Tolvane"));

@@ -7,7 +7,8 @@
 
 namespace {
 
-int listContent(const CommandLine &command, const QStringList &arguments) {
+int listContent(const CommandLine &command, const QStringList &arguments)
+{
     const ParsedArguments parsed =
         ParsedArguments::parse(arguments, {QStringLiteral("--resources"), QStringLiteral("--lang"),
                                            QStringLiteral("--category")});
@@ -48,7 +49,8 @@ int listContent(const CommandLine &command, const QStringList &arguments) {
     return 0;
 }
 
-int buildContent(const CommandLine &command, const QStringList &arguments) {
+int buildContent(const CommandLine &command, const QStringList &arguments)
+{
     const ParsedArguments parsed = ParsedArguments::parse(arguments, {});
     if (!parsed.error.isEmpty())
         return command.fail(parsed.error);
@@ -64,7 +66,8 @@ int buildContent(const CommandLine &command, const QStringList &arguments) {
 
 } // namespace
 
-int runContentCommand(const CommandLine &command) {
+int runContentCommand(const CommandLine &command)
+{
     const QString action = command.arguments.value(0);
     const QStringList rest = command.arguments.mid(1);
     if (action == QLatin1String("list"))

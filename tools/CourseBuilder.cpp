@@ -22,7 +22,8 @@ struct CourseBuilder::Category {
 
 namespace {
 
-std::optional<QJsonDocument> readJsonFile(const QString &path, QString &error) {
+std::optional<QJsonDocument> readJsonFile(const QString &path, QString &error)
+{
     const auto bytes = VoFileUtil::readFile(path);
     if (!bytes) {
         error = QStringLiteral("cannot read %1").arg(path);
@@ -39,11 +40,13 @@ std::optional<QJsonDocument> readJsonFile(const QString &path, QString &error) {
     return document;
 }
 
-bool isInteger(const QJsonValue &value) {
+bool isInteger(const QJsonValue &value)
+{
     return value.isDouble() && value.toDouble() == static_cast<double>(value.toInteger());
 }
 
-QString recipeDigest(const QStringList &parts) {
+QString recipeDigest(const QStringList &parts)
+{
     return QString::fromLatin1(
         QCryptographicHash::hash(parts.join(QChar(0x1f)).toUtf8(), QCryptographicHash::Sha256)
             .toHex());
@@ -53,14 +56,17 @@ QString recipeDigest(const QStringList &parts) {
 
 CourseBuilder::CourseBuilder(QString sourceDir, QString outputDir)
     : m_sourceDir(std::move(sourceDir))
-    , m_outputDir(QDir::cleanPath(std::move(outputDir))) {}
+    , m_outputDir(QDir::cleanPath(std::move(outputDir)))
+{}
 
-bool CourseBuilder::fail(const QString &message) {
+bool CourseBuilder::fail(const QString &message)
+{
     m_error = message;
     return false;
 }
 
-bool CourseBuilder::readCategory(const QString &folder, Category &category) {
+bool CourseBuilder::readCategory(const QString &folder, Category &category)
+{
     const QDir dir(QDir(m_sourceDir).filePath(folder));
     QString error;
     const auto info = readJsonFile(dir.filePath(QStringLiteral("pkgInfo.json")), error);
@@ -99,7 +105,8 @@ bool CourseBuilder::readCategory(const QString &folder, Category &category) {
 }
 
 bool CourseBuilder::makeFile(const QString &relativePath, const QString &recipe,
-                             const std::function<bool(const QString &)> &make) {
+                             const std::function<bool(const QString &)> &make)
+{
     const QString path = QDir(m_outputDir).filePath(relativePath);
     m_manifest.insert(relativePath, recipe);
     if (m_oldManifest.value(relativePath).toString() == recipe && QFileInfo::exists(path)) {
@@ -113,7 +120,8 @@ bool CourseBuilder::makeFile(const QString &relativePath, const QString &recipe,
     return true;
 }
 
-bool CourseBuilder::writeCategory(const Category &category) {
+bool CourseBuilder::writeCategory(const Category &category)
+{
     const QString folder = QDir(m_outputDir).filePath(category.id);
     QDir().mkpath(folder);
 
@@ -165,7 +173,8 @@ bool CourseBuilder::writeCategory(const Category &category) {
     return true;
 }
 
-void CourseBuilder::removeUnexpected(const QString &folder, const QSet<QString> &expected) {
+void CourseBuilder::removeUnexpected(const QString &folder, const QSet<QString> &expected)
+{
     const QDir dir(folder);
     for (const QFileInfo &entry :
          dir.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
@@ -178,7 +187,8 @@ void CourseBuilder::removeUnexpected(const QString &folder, const QSet<QString> 
     }
 }
 
-bool CourseBuilder::build() {
+bool CourseBuilder::build()
+{
     const QDir source(m_sourceDir);
     if (!source.exists())
         return fail(QStringLiteral("no course sources at %1").arg(m_sourceDir));
@@ -220,7 +230,8 @@ bool CourseBuilder::build() {
     return true;
 }
 
-QString CourseBuilder::summary() const {
+QString CourseBuilder::summary() const
+{
     return QStringLiteral("%1 categories, %2 phrases: %3 files made, %4 unchanged")
         .arg(m_categories)
         .arg(m_phrases)

@@ -15,7 +15,8 @@ struct CryptAction {
 } // namespace
 
 // File forms of the cipher, for preparing content. The key defaults to the course's content key.
-int runCryptCommand(const CommandLine &command) {
+int runCryptCommand(const CommandLine &command)
+{
     const std::map<QString, CryptAction> actions{
         {QStringLiteral("encipher-plist"),
          {1, 2,

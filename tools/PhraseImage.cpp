@@ -11,7 +11,8 @@ constexpr int imageWidth = 480;
 constexpr int imageHeight = 320;
 } // namespace
 
-bool PhraseImage::write(const QString &text, const QString &seed, const QString &path) {
+bool PhraseImage::write(const QString &text, const QString &seed, const QString &path)
+{
     const QByteArray digest = QCryptographicHash::hash(seed.toUtf8(), QCryptographicHash::Md5);
     const auto byteAt = [&digest](int i) {
         return static_cast<quint8>(digest.at(i));

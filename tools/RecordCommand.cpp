@@ -2,7 +2,8 @@
 #include "app/UserRecord.h"
 #include "content/UserInfoFile.h"
 
-int runRecordCommand(const CommandLine &command) {
+int runRecordCommand(const CommandLine &command)
+{
     const ParsedArguments parsed =
         ParsedArguments::parse(command.arguments, {QStringLiteral("--record")});
     if (!parsed.error.isEmpty())

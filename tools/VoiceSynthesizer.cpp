@@ -19,7 +19,8 @@ constexpr double paddingSeconds = 0.25;
 
 } // namespace
 
-bool VoiceSynthesizer::speak(const QString &text, const QString &mp3Path, QString &error) {
+bool VoiceSynthesizer::speak(const QString &text, const QString &mp3Path, QString &error)
+{
     QTemporaryDir scratch;
     const QString wavPath = scratch.filePath(QStringLiteral("voice.wav"));
     QProcess espeak;

@@ -1,7 +1,8 @@
 #include "CommandLine.h"
 #include "content/VoAppCommon.h"
 
-int runWordsCommand(const CommandLine &command) {
+int runWordsCommand(const CommandLine &command)
+{
     const ParsedArguments parsed =
         ParsedArguments::parse(command.arguments, {}, {QStringLiteral("--upper")});
     if (!parsed.error.isEmpty())

@@ -18,14 +18,16 @@ const char *const usage = "usage: tolvane-cli COMMAND ...\n"
 
 } // namespace
 
-int CommandLine::fail(const QString &message) const {
+int CommandLine::fail(const QString &message) const
+{
     err << "tolvane-cli: " << message << Qt::endl;
     return 1;
 }
 
 ParsedArguments ParsedArguments::parse(const QStringList &arguments,
                                        const QStringList &valueOptions,
-                                       const QStringList &flagOptions) {
+                                       const QStringList &flagOptions)
+{
     ParsedArguments parsed;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments[i];
@@ -50,7 +52,8 @@ ParsedArguments ParsedArguments::parse(const QStringList &arguments,
     return parsed;
 }
 
-int main(int argc, char *argv[]) {
+int main(int argc, char *argv[])
+{
     // The CLI never shows a window, but drawing the course's pictures needs a GUI application;
     // the other commands stay clear of the windowing system.
     const bool draws =

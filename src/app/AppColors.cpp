@@ -2,6 +2,7 @@
 
 #include "content/VoAppCommon.h"
 
-QColor AppColors::body() {
+QColor AppColors::body()
+{
     return VoAppCommon::getBodyBgColor();
 }

@@ -5,7 +5,8 @@
 #include "content/AppCommon.h"
 #include "content/UserInfoFile.h"
 
-bool AppDelegate::didFinishLaunching() {
+bool AppDelegate::didFinishLaunching()
+{
     const UserInfoFile record;
     if (!record.exists())
         record.write(initialUserInfo());

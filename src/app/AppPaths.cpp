@@ -7,17 +7,20 @@
 
 namespace AppPaths {
 
-QString documentsFolder() {
+QString documentsFolder()
+{
     return VoFileUtil::getDocumentsDirectory();
 }
 
-QString recordFolder() {
+QString recordFolder()
+{
     const QString folder = documentsFolder() + QStringLiteral("record/");
     QDir().mkpath(folder);
     return folder;
 }
 
-QString userInfoPath() {
+QString userInfoPath()
+{
     return UserInfoFile().path();
 }
 

@@ -5,18 +5,21 @@
 
 CategoryListModel::CategoryListModel(QObject *parent)
     : QAbstractListModel(parent)
-    , m_categories(loadAllCategories()) {
+    , m_categories(loadAllCategories())
+{
     connect(&Preferences::instance(), &Preferences::languageTypeChanged, this, [this] {
         if (!m_categories.isEmpty())
             Q_EMIT dataChanged(index(0), index(rowCount() - 1), {NameRole});
     });
 }
 
-int CategoryListModel::rowCount(const QModelIndex &parent) const {
+int CategoryListModel::rowCount(const QModelIndex &parent) const
+{
     return parent.isValid() ? 0 : static_cast<int>(m_categories.size());
 }
 
-QVariant CategoryListModel::data(const QModelIndex &index, int role) const {
+QVariant CategoryListModel::data(const QModelIndex &index, int role) const
+{
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
     const CategoryInfo &category = *m_categories.at(index.row());
@@ -37,7 +40,8 @@ QVariant CategoryListModel::data(const QModelIndex &index, int role) const {
     }
 }
 
-QHash<int, QByteArray> CategoryListModel::roleNames() const {
+QHash<int, QByteArray> CategoryListModel::roleNames() const
+{
     return {{CategoryIdRole, "categoryId"},
             {NameRole, "name"},
             {GermanNameRole, "germanName"},

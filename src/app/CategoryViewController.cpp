@@ -4,16 +4,19 @@
 #include "content/AppCommon.h"
 
 CategoryViewController::CategoryViewController(QObject *parent)
-    : QObject(parent) {
+    : QObject(parent)
+{
     connect(&Preferences::instance(), &Preferences::languageTypeChanged, this,
             &CategoryViewController::titleChanged);
 }
 
-QString CategoryViewController::categoryId() const {
+QString CategoryViewController::categoryId() const
+{
     return m_category ? m_category->id : QString();
 }
 
-void CategoryViewController::setCategoryId(const QString &categoryId) {
+void CategoryViewController::setCategoryId(const QString &categoryId)
+{
     if (m_category && m_category->id == categoryId)
         return;
     m_category = contentStore().category(categoryId);
@@ -23,7 +26,8 @@ void CategoryViewController::setCategoryId(const QString &categoryId) {
     Q_EMIT titleChanged();
 }
 
-QString CategoryViewController::title() const {
+QString CategoryViewController::title() const
+{
     return m_category ? translatedName(*m_category, Preferences::instance().languageType())
                       : QString();
 }

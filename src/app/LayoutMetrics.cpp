@@ -7,33 +7,40 @@
 #include <QVersionNumber>
 
 LayoutMetrics::LayoutMetrics(QObject *parent)
-    : QObject(parent) {}
+    : QObject(parent)
+{}
 
-LayoutMetrics &LayoutMetrics::instance() {
+LayoutMetrics &LayoutMetrics::instance()
+{
     static LayoutMetrics metrics;
     return metrics;
 }
 
-LayoutMetrics *LayoutMetrics::create(QQmlEngine *, QJSEngine *) {
+LayoutMetrics *LayoutMetrics::create(QQmlEngine *, QJSEngine *)
+{
     QQmlEngine::setObjectOwnership(&instance(), QQmlEngine::CppOwnership);
     return &instance();
 }
 
-double LayoutMetrics::screenWidth() const {
+double LayoutMetrics::screenWidth() const
+{
     return VoAppCommon::screenSize().width();
 }
 
-double LayoutMetrics::screenHeight() const {
+double LayoutMetrics::screenHeight() const
+{
     return VoAppCommon::screenSize().height();
 }
 
-float LayoutMetrics::systemVersion() const {
+float LayoutMetrics::systemVersion() const
+{
     const QVersionNumber version = QVersionNumber::fromString(QSysInfo::productVersion());
     return static_cast<float>(version.majorVersion()) +
            static_cast<float>(version.minorVersion()) / 10.0F;
 }
 
-void LayoutMetrics::setScreenSize(double width, double height) {
+void LayoutMetrics::setScreenSize(double width, double height)
+{
     const QSizeF size(width, height);
     if (size == VoAppCommon::screenSize() || size.isEmpty())
         return;

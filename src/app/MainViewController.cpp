@@ -4,9 +4,11 @@
 
 MainViewController::MainViewController(QObject *parent)
     : QObject(parent)
-    , m_experienceTotal(totalExperience()) {}
+    , m_experienceTotal(totalExperience())
+{}
 
-void MainViewController::refresh() {
+void MainViewController::refresh()
+{
     const qint64 total = totalExperience();
     if (total == m_experienceTotal)
         return;

@@ -19,7 +19,8 @@ const std::array<std::pair<const QString *, qint64>, 8> experienceWeights{{
 }};
 } // namespace
 
-QVariantMap initialUserInfo() {
+QVariantMap initialUserInfo()
+{
     QVariantMap record;
     for (const QString *key :
          {&UserInfoKey::reviewed, &UserInfoKey::advised, &UserInfoKey::shared,
@@ -30,7 +31,8 @@ QVariantMap initialUserInfo() {
     return record;
 }
 
-qint64 totalExperience(const QVariantMap &record) {
+qint64 totalExperience(const QVariantMap &record)
+{
     qint64 total = 0;
     for (const auto &[key, weight] : experienceWeights) {
         qint64 points = 0;
@@ -41,10 +43,12 @@ qint64 totalExperience(const QVariantMap &record) {
     return total;
 }
 
-qint64 totalExperience() {
+qint64 totalExperience()
+{
     return totalExperience(readUserInfo());
 }
 
-void recordQuizResult(int score) {
+void recordQuizResult(int score)
+{
     UserInfoFile().add({{UserInfoKey::quizCount, 1}, {UserInfoKey::quizTotalScore, score}});
 }

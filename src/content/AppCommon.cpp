@@ -16,11 +16,13 @@
 
 namespace {
 
-[[noreturn]] void contentError(int line, const QString &what) {
+[[noreturn]] void contentError(int line, const QString &what)
+{
     fatal(appCommonSource, line, what);
 }
 
-QJsonDocument readJson(int line, const QByteArray &bytes, const QString &path) {
+QJsonDocument readJson(int line, const QByteArray &bytes, const QString &path)
+{
     QJsonParseError error{};
     QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
@@ -30,21 +32,24 @@ QJsonDocument readJson(int line, const QByteArray &bytes, const QString &path) {
     return document;
 }
 
-QString requiredId(int line, const QJsonObject &object, const QString &path) {
+QString requiredId(int line, const QJsonObject &object, const QString &path)
+{
     const QJsonValue id = object.value(QLatin1String("id"));
     if (!id.isDouble())
         contentError(line, QStringLiteral("%1 has no integer \"id\"").arg(path));
     return QString::number(id.toInteger());
 }
 
-QString requiredText(int line, const QJsonObject &object, QLatin1String key, const QString &path) {
+QString requiredText(int line, const QJsonObject &object, QLatin1String key, const QString &path)
+{
     const QJsonValue value = object.value(key);
     if (!value.isString())
         contentError(line, QStringLiteral("%1 has no text \"%2\"").arg(path, key));
     return value.toString();
 }
 
-QMap<QString, QString> translations(const QJsonObject &object) {
+QMap<QString, QString> translations(const QJsonObject &object)
+{
     QMap<QString, QString> map;
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         if (it.value().isString())
@@ -53,7 +58,8 @@ QMap<QString, QString> translations(const QJsonObject &object) {
     return map;
 }
 
-QString translated(const BaseItemInfo &item, const QString &languageCode, const QString &fallback) {
+QString translated(const BaseItemInfo &item, const QString &languageCode, const QString &fallback)
+{
     auto it = item.trans.constFind(languageCode);
     if (it != item.trans.cend())
         return *it;
@@ -61,7 +67,8 @@ QString translated(const BaseItemInfo &item, const QString &languageCode, const 
     return it != item.trans.cend() ? *it : fallback;
 }
 
-std::unique_ptr<CategoryInfo> readCategory(const QString &folder) {
+std::unique_ptr<CategoryInfo> readCategory(const QString &folder)
+{
     const QString path = folder + QStringLiteral("/pkgInfo");
     const auto bytes = VoFileUtil::readFile(path);
     if (!bytes)
@@ -84,11 +91,13 @@ std::unique_ptr<CategoryInfo> readCategory(const QString &folder) {
 } // namespace
 
 ContentStore::ContentStore(QString root)
-    : m_root(std::move(root)) {}
+    : m_root(std::move(root))
+{}
 
 ContentStore::~ContentStore() = default;
 
-const QList<CategoryInfo *> &ContentStore::loadAllCategories() {
+const QList<CategoryInfo *> &ContentStore::loadAllCategories()
+{
     if (m_categories)
         return *m_categories;
     const QDir rootDir(m_root);
@@ -109,7 +118,8 @@ const QList<CategoryInfo *> &ContentStore::loadAllCategories() {
     return *m_categories;
 }
 
-CategoryInfo *ContentStore::category(const QString &categoryId) {
+CategoryInfo *ContentStore::category(const QString &categoryId)
+{
     const auto &categories = loadAllCategories();
     const auto it =
         std::find_if(categories.cbegin(), categories.cend(),
@@ -117,7 +127,8 @@ CategoryInfo *ContentStore::category(const QString &categoryId) {
     return it == categories.cend() ? nullptr : *it;
 }
 
-const QList<PhraseInfo *> *ContentStore::loadPhrases(const QString &categoryId) {
+const QList<PhraseInfo *> *ContentStore::loadPhrases(const QString &categoryId)
+{
     CategoryInfo *owner = category(categoryId);
     if (!owner)
         return nullptr;
@@ -158,7 +169,8 @@ const QList<PhraseInfo *> *ContentStore::loadPhrases(const QString &categoryId) 
     return &*owner->phraseInfoList;
 }
 
-const QList<PhraseInfo *> &ContentStore::allPhrases() {
+const QList<PhraseInfo *> &ContentStore::allPhrases()
+{
     if (!m_allPhrases) {
         QList<PhraseInfo *> phrases;
         for (const CategoryInfo *c : loadAllCategories())
@@ -169,7 +181,8 @@ const QList<PhraseInfo *> &ContentStore::allPhrases() {
 }
 
 QList<PhraseInfo *>
-ContentStore::phrasesMatching(const std::function<bool(const PhraseInfo &)> &predicate) {
+ContentStore::phrasesMatching(const std::function<bool(const PhraseInfo &)> &predicate)
+{
     QList<PhraseInfo *> matching;
     for (PhraseInfo *phrase : allPhrases()) {
         if (predicate(*phrase))
@@ -178,19 +191,22 @@ ContentStore::phrasesMatching(const std::function<bool(const PhraseInfo &)> &pre
     return matching;
 }
 
-QString ContentStore::soundPath(PhraseInfo &phrase) const {
+QString ContentStore::soundPath(PhraseInfo &phrase) const
+{
     if (phrase.soundPath.isEmpty())
         phrase.soundPath =
             QStringLiteral("%1/%2/voices/%3.mp3").arg(m_root, phrase.categoryId, phrase.id);
     return phrase.soundPath;
 }
 
-QString ContentStore::imagePath(const PhraseInfo &phrase) const {
+QString ContentStore::imagePath(const PhraseInfo &phrase) const
+{
     const QString digest = TextHelpers::md5(QStringLiteral("images-%1-de").arg(phrase.id));
     return QStringLiteral("%1/%2/images/%3.jpg").arg(m_root, phrase.categoryId, digest);
 }
 
-const QStringList &supportedLanguageCodes() {
+const QStringList &supportedLanguageCodes()
+{
     static const QStringList codes{
         QStringLiteral("en"), QStringLiteral("zh-Hans"), QStringLiteral("zh-Hant"),
         QStringLiteral("ja"), QStringLiteral("ko"),      QStringLiteral("fr"),
@@ -202,17 +218,20 @@ const QStringList &supportedLanguageCodes() {
 }
 
 namespace {
-QString &appResourceRoot() {
+QString &appResourceRoot()
+{
     static QString root;
     return root;
 }
 } // namespace
 
-void setResourceRoot(const QString &root) {
+void setResourceRoot(const QString &root)
+{
     appResourceRoot() = root;
 }
 
-ContentStore &contentStore() {
+ContentStore &contentStore()
+{
     static ContentStore store([] {
         QString root = appResourceRoot();
         if (root.isEmpty())
@@ -225,38 +244,48 @@ ContentStore &contentStore() {
     return store;
 }
 
-const QList<CategoryInfo *> &loadAllCategories() {
+const QList<CategoryInfo *> &loadAllCategories()
+{
     return contentStore().loadAllCategories();
 }
-const QList<PhraseInfo *> *loadPhrases(const QString &categoryId) {
+const QList<PhraseInfo *> *loadPhrases(const QString &categoryId)
+{
     return contentStore().loadPhrases(categoryId);
 }
-const QList<PhraseInfo *> &allPhrases() {
+const QList<PhraseInfo *> &allPhrases()
+{
     return contentStore().allPhrases();
 }
-QList<PhraseInfo *> phrasesMatching(const std::function<bool(const PhraseInfo &)> &predicate) {
+QList<PhraseInfo *> phrasesMatching(const std::function<bool(const PhraseInfo &)> &predicate)
+{
     return contentStore().phrasesMatching(predicate);
 }
-QString soundPath(PhraseInfo &phrase) {
+QString soundPath(PhraseInfo &phrase)
+{
     return contentStore().soundPath(phrase);
 }
-QString imagePath(const PhraseInfo &phrase) {
+QString imagePath(const PhraseInfo &phrase)
+{
     return contentStore().imagePath(phrase);
 }
 
-QString foreignText(const PhraseInfo &phrase) {
+QString foreignText(const PhraseInfo &phrase)
+{
     return phrase.trans.value(QStringLiteral("de"), phrase.content);
 }
 
-QString translation(const PhraseInfo &phrase, const QString &languageCode) {
+QString translation(const PhraseInfo &phrase, const QString &languageCode)
+{
     return translated(phrase, languageCode, phrase.content);
 }
 
-QString translatedName(const CategoryInfo &category, const QString &languageCode) {
+QString translatedName(const CategoryInfo &category, const QString &languageCode)
+{
     return translated(category, languageCode, category.name);
 }
 
-QString defaultLanguageCode(const QStringList &preferredLocalisations) {
+QString defaultLanguageCode(const QStringList &preferredLocalisations)
+{
     for (const QString &localisation : preferredLocalisations) {
         for (const QString &code : supportedLanguageCodes()) {
             if (localisation.startsWith(code))
@@ -266,11 +295,13 @@ QString defaultLanguageCode(const QStringList &preferredLocalisations) {
     return QStringLiteral("en");
 }
 
-QString defaultLanguageCode() {
+QString defaultLanguageCode()
+{
     return defaultLanguageCode(QLocale::system().uiLanguages());
 }
 
-QString formatDuration(float seconds) {
+QString formatDuration(float seconds)
+{
     if (!std::isfinite(seconds))
         contentError(__LINE__,
                      QStringLiteral("cannot format a duration of %1 seconds").arg(seconds));

@@ -79,7 +79,8 @@ QList<PhraseInfo *> phrasesMatching(const std::function<bool(const PhraseInfo &)
 /// n elements drawn from the list without replacement; n < 0 or n > size is fatal.
 template <typename T>
 QList<T> randomPick(const QList<T> &list, qsizetype n,
-                    QRandomGenerator &random = *QRandomGenerator::global()) {
+                    QRandomGenerator &random = *QRandomGenerator::global())
+{
     if (n < 0 || n > list.size())
         fatal(appCommonSource, __LINE__,
               QStringLiteral("cannot pick %1 of %2 elements").arg(n).arg(list.size()));

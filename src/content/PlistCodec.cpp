@@ -19,7 +19,8 @@ using PlistPtr = std::unique_ptr<void, PlistDeleter>;
 // Property-list dates count seconds from 2001-01-01 00:00:00 UTC.
 const QDateTime plistEpoch(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
 
-QVariant toVariant(plist_t node) {
+QVariant toVariant(plist_t node)
+{
     switch (plist_get_node_type(node)) {
     case PLIST_DICT: {
         QVariantMap map;
@@ -86,7 +87,8 @@ QVariant toVariant(plist_t node) {
     }
 }
 
-plist_t toNode(const QVariant &value) {
+plist_t toNode(const QVariant &value)
+{
     switch (value.typeId()) {
     case QMetaType::QVariantMap: {
         plist_t dict = plist_new_dict();
@@ -127,7 +129,8 @@ plist_t toNode(const QVariant &value) {
 
 } // namespace
 
-std::optional<QVariantMap> dictionaryFromBytes(const QByteArray &bytes) {
+std::optional<QVariantMap> dictionaryFromBytes(const QByteArray &bytes)
+{
     if (bytes.isEmpty() || bytes.size() > std::numeric_limits<uint32_t>::max())
         return std::nullopt;
     plist_t raw = nullptr;
@@ -138,7 +141,8 @@ std::optional<QVariantMap> dictionaryFromBytes(const QByteArray &bytes) {
     return toVariant(root.get()).toMap();
 }
 
-QByteArray toXml(const QVariantMap &dictionary) {
+QByteArray toXml(const QVariantMap &dictionary)
+{
     const PlistPtr root(toNode(dictionary));
     char *xml = nullptr;
     uint32_t length = 0;

@@ -3,19 +3,23 @@
 #include <QLocale>
 #include <QSysInfo>
 
-QString Tools::getCountryCode() {
+QString Tools::getCountryCode()
+{
     return QLocale::territoryToCode(QLocale::system().territory());
 }
 
-QString Tools::getLanguageCode() {
+QString Tools::getLanguageCode()
+{
     return QLocale::languageToCode(QLocale::system().language());
 }
 
-QString Tools::getDevicePlatform() {
+QString Tools::getDevicePlatform()
+{
     return QSysInfo::currentCpuArchitecture();
 }
 
-QColor Tools::getUIColorFromRGB(quint32 rgb) {
+QColor Tools::getUIColorFromRGB(quint32 rgb)
+{
     return QColor::fromRgb(static_cast<int>((rgb >> 16) & 0xFF),
                            static_cast<int>((rgb >> 8) & 0xFF), static_cast<int>(rgb & 0xFF));
 }

@@ -31,8 +31,10 @@ public:
     /// Adds to several counters in one read and one write.
     void add(std::initializer_list<std::pair<QString, qint64>> amounts) const;
 
-    /// The integer under a key of an already read dictionary; fatal when missing.
-    [[nodiscard]] static qint64 intFrom(const QVariantMap &dictionary, const QString &key);
+    /// The integer under a key of an already read dictionary; fatal when missing. The origin
+    /// names the file in the message.
+    [[nodiscard]] static qint64 intFrom(const QVariantMap &dictionary, const QString &key,
+                                        const QString &origin = QStringLiteral("userInfo.plist"));
 
 private:
     QString m_path;

@@ -16,7 +16,8 @@ namespace {
 constexpr std::array<uint8_t, DES_BLOCK_SIZE> initialisationVector{'6', '1', '9', '3',
                                                                    '4', '0', '7', '2'};
 
-std::optional<des_ctx> makeContext(const QString &key) {
+std::optional<des_ctx> makeContext(const QString &key)
+{
     std::array<uint8_t, DES_KEY_SIZE> keyBytes{};
     const QByteArray utf8 = key.toUtf8();
     std::copy_n(utf8.constData(), std::min<qsizetype>(utf8.size(), DES_KEY_SIZE), keyBytes.begin());
@@ -27,25 +28,30 @@ std::optional<des_ctx> makeContext(const QString &key) {
     return context;
 }
 
-void desEncrypt(const void *context, size_t length, uint8_t *dst, const uint8_t *src) {
+void desEncrypt(const void *context, size_t length, uint8_t *dst, const uint8_t *src)
+{
     des_encrypt(static_cast<const des_ctx *>(context), length, dst, src);
 }
 
-void desDecrypt(const void *context, size_t length, uint8_t *dst, const uint8_t *src) {
+void desDecrypt(const void *context, size_t length, uint8_t *dst, const uint8_t *src)
+{
     des_decrypt(static_cast<const des_ctx *>(context), length, dst, src);
 }
 
-uint8_t *bytes(QByteArray &array) {
+uint8_t *bytes(QByteArray &array)
+{
     return reinterpret_cast<uint8_t *>(array.data());
 }
-const uint8_t *bytes(const QByteArray &array) {
+const uint8_t *bytes(const QByteArray &array)
+{
     return reinterpret_cast<const uint8_t *>(array.constData());
 }
 
 } // namespace
 
 std::optional<QByteArray> VoCryptor::encryptData(const QByteArray &data, Operation operation,
-                                                 const QString &key) {
+                                                 const QString &key)
+{
     auto context = makeContext(key);
     if (!context)
         return std::nullopt;
@@ -77,12 +83,14 @@ std::optional<QByteArray> VoCryptor::encryptData(const QByteArray &data, Operati
     return plain;
 }
 
-std::optional<QByteArray> VoCryptor::decryptData(const QByteArray &data, const QString &key) {
+std::optional<QByteArray> VoCryptor::decryptData(const QByteArray &data, const QString &key)
+{
     return encryptData(data, Decipher, key);
 }
 
 std::optional<QString> VoCryptor::encrypt(const QString &text, Operation operation,
-                                          const QString &key) {
+                                          const QString &key)
+{
     if (operation == Encipher) {
         auto cipher = encryptData(text.toUtf8(), Encipher, key);
         if (!cipher)
@@ -98,20 +106,24 @@ std::optional<QString> VoCryptor::encrypt(const QString &text, Operation operati
     return TextHelpers::fromUtf8Strict(*plain);
 }
 
-QString VoCryptor::encryptWithDES(const QString &plain, const QString &key) {
+QString VoCryptor::encryptWithDES(const QString &plain, const QString &key)
+{
     return encrypt(plain, Encipher, key).value_or(QString());
 }
 
-std::optional<QString> VoCryptor::decryptWithDES(const QString &cipherText, const QString &key) {
+std::optional<QString> VoCryptor::decryptWithDES(const QString &cipherText, const QString &key)
+{
     return encrypt(cipherText, Decipher, key);
 }
 
-bool VoCryptor::encryptWithDESForFile(const QString &plistPath, const QString &key) {
+bool VoCryptor::encryptWithDESForFile(const QString &plistPath, const QString &key)
+{
     return encryptWithDESForPlistFile(plistPath, plistPath + QStringLiteral(".des"), key);
 }
 
 bool VoCryptor::encryptWithDESForPlistFile(const QString &plistPath, const QString &outputPath,
-                                           const QString &key) {
+                                           const QString &key)
+{
     auto dictionary = VoFileUtil::getDicFromEncryptedPlist(plistPath, QString());
     if (!dictionary)
         return false;
@@ -122,7 +134,8 @@ bool VoCryptor::encryptWithDESForPlistFile(const QString &plistPath, const QStri
     return cipher && VoFileUtil::writeFileAtomically(outputPath, cipher->toUtf8());
 }
 
-bool VoCryptor::decryptWithDESForFile(const QString &path, const QString &key) {
+bool VoCryptor::decryptWithDESForFile(const QString &path, const QString &key)
+{
     auto text = VoFileUtil::readFile(path);
     if (!text)
         return false;
@@ -132,14 +145,16 @@ bool VoCryptor::decryptWithDESForFile(const QString &path, const QString &key) {
 }
 
 bool VoCryptor::encryptWithDESForDataFile(const QString &inputPath, const QString &outputPath,
-                                          const QString &key) {
+                                          const QString &key)
+{
     auto data = VoFileUtil::readFile(inputPath);
     auto cipher = data ? encryptData(*data, Encipher, key) : std::nullopt;
     return cipher && VoFileUtil::writeFileAtomically(outputPath, *cipher);
 }
 
 bool VoCryptor::decryptWithDESForDataFile(const QString &inputPath, const QString &outputPath,
-                                          const QString &key) {
+                                          const QString &key)
+{
     auto data = VoFileUtil::readFile(inputPath);
     auto plain = data ? encryptData(*data, Decipher, key) : std::nullopt;
     return plain && VoFileUtil::writeFileAtomically(outputPath, *plain);

@@ -13,7 +13,8 @@
 #include <QStandardPaths>
 
 namespace {
-QString folderWithSlash(QStandardPaths::StandardLocation location) {
+QString folderWithSlash(QStandardPaths::StandardLocation location)
+{
     const QString path = QStandardPaths::writableLocation(location);
     QDir().mkpath(path);
     return path + QLatin1Char('/');
@@ -21,7 +22,8 @@ QString folderWithSlash(QStandardPaths::StandardLocation location) {
 } // namespace
 
 std::optional<QVariantMap> VoFileUtil::getDicFromEncryptedPlist(const QString &path,
-                                                                const QString &key) {
+                                                                const QString &key)
+{
     auto bytes = readFile(path);
     if (bytes && !key.isEmpty()) {
         auto cipher = TextHelpers::fromUtf8Strict(*bytes);
@@ -35,20 +37,24 @@ std::optional<QVariantMap> VoFileUtil::getDicFromEncryptedPlist(const QString &p
     return dictionary;
 }
 
-QString VoFileUtil::getDocumentsDirectory() {
+QString VoFileUtil::getDocumentsDirectory()
+{
     return folderWithSlash(QStandardPaths::AppDataLocation);
 }
 
-QString VoFileUtil::getCachesDirectory() {
+QString VoFileUtil::getCachesDirectory()
+{
     return folderWithSlash(QStandardPaths::CacheLocation);
 }
 
-double VoFileUtil::getFileSizeAtPath(const QString &path) {
+double VoFileUtil::getFileSizeAtPath(const QString &path)
+{
     const QFileInfo info(path);
     return info.exists() ? static_cast<double>(info.size()) : 0.0;
 }
 
-float VoFileUtil::getFolderSizeAtPath(const QString &path) {
+float VoFileUtil::getFolderSizeAtPath(const QString &path)
+{
     if (!QFileInfo(path).isDir())
         return 0.0F;
     double bytes = 0;
@@ -59,7 +65,8 @@ float VoFileUtil::getFolderSizeAtPath(const QString &path) {
     return static_cast<float>(bytes * (1.0 / 1048576.0));
 }
 
-void VoFileUtil::removeFileInFolder(const QString &path) {
+void VoFileUtil::removeFileInFolder(const QString &path)
+{
     const QDir folder(path);
     const auto entries =
         folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -71,14 +78,16 @@ void VoFileUtil::removeFileInFolder(const QString &path) {
     }
 }
 
-std::optional<QByteArray> VoFileUtil::readFile(const QString &path) {
+std::optional<QByteArray> VoFileUtil::readFile(const QString &path)
+{
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     return file.readAll();
 }
 
-bool VoFileUtil::writeFileAtomically(const QString &path, const QByteArray &contents) {
+bool VoFileUtil::writeFileAtomically(const QString &path, const QByteArray &contents)
+{
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;

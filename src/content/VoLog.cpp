@@ -6,7 +6,8 @@
 Q_LOGGING_CATEGORY(lcContent, "tolvane.content", QtWarningMsg)
 Q_LOGGING_CATEGORY(lcApp, "tolvane.app", QtWarningMsg)
 
-void VoLog::write(const QLoggingCategory &category, int level, const QString &text) {
+void VoLog::write(const QLoggingCategory &category, int level, const QString &text)
+{
     if (level <= Error) {
         if (category.isCriticalEnabled())
             QMessageLogger(nullptr, 0, nullptr, category.categoryName())
@@ -17,7 +18,8 @@ void VoLog::write(const QLoggingCategory &category, int level, const QString &te
     }
 }
 
-void fatal(const char *source, int line, const QString &what) {
+void fatal(const char *source, int line, const QString &what)
+{
     VoLog::write(lcApp(), VoLog::Error,
                  QStringLiteral("Fatal error in %1 line %2: %3")
                      .arg(QString::fromUtf8(source))

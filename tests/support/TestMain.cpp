@@ -6,7 +6,8 @@
 
 // Every test program runs headless and writes only below its own temporary folder: the app's
 // data, cache and settings folders are redirected there, so parallel test programs never meet.
-int main(int argc, char **argv) {
+int main(int argc, char **argv)
+{
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QTemporaryDir home;

@@ -5,17 +5,21 @@
 /// Where tests find their inputs.
 namespace TestPaths {
 /// Small fixtures kept beside the tests.
-inline QString data(const QString &name) {
+inline QString data(const QString &name)
+{
     return QStringLiteral(TOLVANE_TEST_DATA "/") + name;
 }
 /// The sample course the build made.
-inline QString course() {
+inline QString course()
+{
     return QStringLiteral(TOLVANE_COURSE_DIR);
 }
-inline QString buildDir() {
+inline QString buildDir()
+{
     return QStringLiteral(TOLVANE_BUILD_DIR);
 }
-inline QString cli() {
+inline QString cli()
+{
     return QStringLiteral(TOLVANE_CLI);
 }
 } // namespace TestPaths

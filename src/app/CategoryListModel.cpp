@@ -9,7 +9,7 @@ CategoryListModel::CategoryListModel(QObject *parent)
 {
     connect(&Preferences::instance(), &Preferences::languageTypeChanged, this, [this] {
         if (!m_categories.isEmpty())
-            Q_EMIT dataChanged(index(0), index(rowCount() - 1), {NameRole});
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1), {NameRole, Qt::DisplayRole});
     });
 }
 

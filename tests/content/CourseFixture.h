@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QtPrinters.h"
 #include "content/AppCommon.h"
 #include "content/VoCryptor.h"
 
@@ -49,14 +50,15 @@ public:
     /// phrases, no name translations).
     void addSampleCategories() const
     {
-        addCategory(10, u"Begrüßung"_s,
-                    {{u"en"_s, u"Greetings"_s}, {u"fr"_s, u"Salutations"_s}, {u"de"_s, u"Hallo!"_s}},
-                    {QJsonObject{{u"id"_s, 12},
-                                 {u"txt"_s, u"Guten Morgen!"_s},
-                                 {u"phon"_s, u"ˈɡuːtn̩ ˈmɔʁɡn̩"_s},
-                                 {u"wTrans"_s, QJsonObject{{u"en"_s, u"Good morning!"_s},
-                                                           {u"fr"_s, u"Bonjour !"_s}}}},
-                     QJsonObject{{u"id"_s, 13}, {u"txt"_s, u"Wie geht's?"_s}}});
+        addCategory(
+            10, u"Begrüßung"_s,
+            {{u"en"_s, u"Greetings"_s}, {u"fr"_s, u"Salutations"_s}, {u"de"_s, u"Hallo!"_s}},
+            {QJsonObject{{u"id"_s, 12},
+                         {u"txt"_s, u"Guten Morgen!"_s},
+                         {u"phon"_s, u"ˈɡuːtn̩ ˈmɔʁɡn̩"_s},
+                         {u"wTrans"_s,
+                          QJsonObject{{u"en"_s, u"Good morning!"_s}, {u"fr"_s, u"Bonjour !"_s}}}},
+             QJsonObject{{u"id"_s, 13}, {u"txt"_s, u"Wie geht's?"_s}}});
         addCategory(2, u"Im Café"_s, {{u"en"_s, u"At the café"_s}},
                     {QJsonObject{{u"id"_s, 20},
                                  {u"txt"_s, u"Einen Kaffee, bitte."_s},

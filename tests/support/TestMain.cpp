@@ -10,7 +10,14 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QTemporaryDir home;
+    // A death-test child aborts before its destructors run, so it makes its folder inside the
+    // parent's, which the parent removes at the end.
+    const QString parentHome = qEnvironmentVariable("TOLVANE_TEST_HOME");
+    QTemporaryDir home(parentHome.isEmpty()
+                           ? QDir::tempPath() + QStringLiteral("/tolvane-test-XXXXXX")
+                           : parentHome + QStringLiteral("/child-XXXXXX"));
+    if (parentHome.isEmpty())
+        qputenv("TOLVANE_TEST_HOME", QFile::encodeName(home.path()));
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
     qputenv("XDG_CACHE_HOME", QFile::encodeName(home.filePath(QStringLiteral("cache"))));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(QStringLiteral("config"))));

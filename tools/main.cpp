@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "content/VoLog.h"
 
 #include <QGuiApplication>
 #include <map>
@@ -65,6 +66,9 @@ int main(int argc, char *argv[])
               : std::make_unique<QCoreApplication>(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Tolvane"));
     QCoreApplication::setApplicationName(QStringLiteral("Tolvane"));
+
+    // A damaged course or record is bad input here: one line and a plain failure status.
+    setFatalAction([] { std::_Exit(1); });
 
     QTextStream out(stdout);
     QTextStream err(stderr);

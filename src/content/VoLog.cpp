@@ -18,6 +18,15 @@ void VoLog::write(const QLoggingCategory &category, int level, const QString &te
     }
 }
 
+namespace {
+FatalAction fatalAction = &std::abort;
+} // namespace
+
+void setFatalAction(FatalAction action)
+{
+    fatalAction = action ? action : &std::abort;
+}
+
 void fatal(const char *source, int line, const QString &what)
 {
     VoLog::write(lcApp(), VoLog::Error,
@@ -25,5 +34,6 @@ void fatal(const char *source, int line, const QString &what)
                      .arg(QString::fromUtf8(source))
                      .arg(line)
                      .arg(what));
+    fatalAction();
     std::abort();
 }

@@ -25,5 +25,10 @@ public:
  */
 [[noreturn]] void fatal(const char *source, int line, const QString &what);
 
+/// What fatal() does once the line is logged: abort by default. A tool that reports bad input
+/// with an exit status instead sets its own action; the action must not return.
+using FatalAction = void (*)();
+void setFatalAction(FatalAction action);
+
 /// Source name that fatal errors of the content store and the user record report.
 inline constexpr char appCommonSource[] = "Tolvane/AppCommon";

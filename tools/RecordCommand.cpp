@@ -19,11 +19,9 @@ int runRecordCommand(const CommandLine &command)
     const QVariantMap record = file.read();
     if (record.isEmpty())
         return command.fail(QStringLiteral("the user record at %1 is damaged").arg(file.path()));
-    for (const QString &key : initialUserInfo().keys()) {
-        if (!record.contains(key))
-            return command.fail(
-                QStringLiteral("the user record at %1 has no \"%2\"").arg(file.path(), key));
-    }
+    // Every counter must be there and be an integer; a damaged one ends the tool with one line.
+    for (const QString &key : initialUserInfo().keys())
+        (void)UserInfoFile::intFrom(record, key, file.path());
 
     for (auto it = record.cbegin(); it != record.cend(); ++it)
         command.out << it.key() << '\t' << it.value().toLongLong() << '\n';

@@ -69,6 +69,9 @@ int main(int argc, char *argv[])
 
     // A damaged course or record is bad input here: one line and a plain failure status.
     setFatalAction([] { std::_Exit(1); });
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
+        QTextStream(stderr) << "tolvane-cli: " << message << Qt::endl;
+    });
 
     QTextStream out(stdout);
     QTextStream err(stderr);

@@ -9,8 +9,9 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
+#include <QTemporaryFile>
+#include <cstdio>
 
 namespace {
 QString folderWithSlash(QStandardPaths::StandardLocation location)
@@ -88,9 +89,17 @@ std::optional<QByteArray> VoFileUtil::readFile(const QString &path)
 
 bool VoFileUtil::writeFileAtomically(const QString &path, const QByteArray &contents)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
+    if (!file.open() || file.write(contents) != contents.size() || !file.flush())
         return false;
-    file.write(contents);
-    return file.commit();
+    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup |
+                        QFileDevice::ReadOther);
+    // rename() replaces the old file in one step, so a reader or a crash sees the old contents
+    // or the new ones, never a mix. There is no fsync: it costs milliseconds on every counter,
+    // and ext4 already orders the data of a replaced file before the rename.
+    if (std::rename(QFile::encodeName(file.fileName()).constData(),
+                    QFile::encodeName(path).constData()) != 0)
+        return false;
+    file.setAutoRemove(false);
+    return true;
 }

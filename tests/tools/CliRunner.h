@@ -1,0 +1,82 @@
+#pragma once
+
+#include "support/TestPaths.h"
+
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <ostream>
+
+using namespace Qt::StringLiterals;
+
+// Readable failure messages for the texts these tests compare.
+inline void PrintTo(const QString &text, std::ostream *os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
+inline void PrintTo(const QStringList &texts, std::ostream *os)
+{
+    *os << '[' << texts.join(u"\", \""_s).prepend(u'"').append(u'"').toStdString() << ']';
+}
+
+/// @brief What one run of tolvane-cli printed and how it ended.
+struct CliRun {
+    int exitCode{-1}; ///< -1 when the program crashed or did not finish
+    QString out;
+    QString err;
+
+    [[nodiscard]] static QStringList lines(const QString &text)
+    {
+        QStringList result = text.split(u'\n');
+        if (!result.isEmpty() && result.last().isEmpty())
+            result.removeLast();
+        return result;
+    }
+    [[nodiscard]] QStringList outLines() const { return lines(out); }
+    [[nodiscard]] QStringList errLines() const { return lines(err); }
+};
+
+/// Runs the built tolvane-cli with the arguments and waits for it to end.
+inline CliRun runCli(const QStringList &arguments)
+{
+    // Without XDG_RUNTIME_DIR (as in containers) Qt warns on stderr, which would hide whether
+    // the tool itself says one line or more; the child gets a private one.
+    static const QTemporaryDir runtimeDir;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_RUNTIME_DIR"_s, runtimeDir.path());
+
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(TestPaths::cli(), arguments);
+    CliRun run;
+    if (!process.waitForStarted()) {
+        ADD_FAILURE() << "cannot start " << TestPaths::cli().toStdString() << ": "
+                      << process.errorString().toStdString();
+        return run;
+    }
+    if (!process.waitForFinished(120'000)) {
+        ADD_FAILURE() << "tolvane-cli " << arguments.join(u' ').toStdString()
+                      << " did not finish: " << process.errorString().toStdString();
+        process.kill();
+        process.waitForFinished();
+    } else if (process.exitStatus() == QProcess::NormalExit) {
+        run.exitCode = process.exitCode();
+    }
+    run.out = QString::fromUtf8(process.readAllStandardOutput());
+    run.err = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+
+/// Checks the failure shape every command shares: a non-zero exit, nothing on stdout and one
+/// line on stderr that names what was wrong.
+inline void expectOneLineFailure(const CliRun &run, const QString &mentioned)
+{
+    EXPECT_GT(run.exitCode, 0) << "the tool must fail, not succeed or crash";
+    EXPECT_TRUE(run.out.isEmpty()) << run.out.toStdString();
+    const QStringList lines = run.errLines();
+    ASSERT_EQ(lines.size(), 1) << run.err.toStdString();
+    EXPECT_TRUE(lines[0].startsWith(u"tolvane-cli: "_s)) << lines[0].toStdString();
+    EXPECT_TRUE(lines[0].contains(mentioned))
+        << lines[0].toStdString() << " should mention " << mentioned.toStdString();
+}

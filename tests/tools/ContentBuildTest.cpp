@@ -1,0 +1,225 @@
+#include "CliRunner.h"
+#include "content/AppCommon.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+namespace {
+
+using Snapshot = QMap<QString, QByteArray>; ///< relative path to SHA-256 of the contents
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+QJsonObject phrase(int id, const QString &text)
+{
+    return {{u"id"_s, id},
+            {u"txt"_s, text},
+            {u"phon"_s, u"ˈbɪtə"_s},
+            {u"wTrans"_s, QJsonObject{{u"en"_s, u"en %1"_s.arg(id)},
+                                      {u"fr"_s, u"fr %1"_s.arg(id)},
+                                      {u"de"_s, text}}}};
+}
+
+// Synthesis takes tens of milliseconds a phrase, so the course stays tiny: categories 2 and 10
+// (whose text order differs from their numeric one) with three phrases between them.
+class ContentBuildTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        writeCategory(u"2"_s, 2, {phrase(201, u"Danke schön!"_s), phrase(202, u"Bitte."_s)});
+        writeCategory(u"10"_s, 10, {phrase(1001, u"Guten Morgen!"_s)});
+    }
+
+    void writeCategory(const QString &folder, int id, const QJsonArray &phrases) const
+    {
+        const QDir dir(m_dir.filePath(u"src/"_s + folder));
+        ASSERT_TRUE(dir.mkpath(u"."_s));
+        const QJsonObject info{{u"id"_s, id},
+                               {u"name"_s, u"Kategorie %1"_s.arg(id)},
+                               {u"nameTrans"_s, QJsonObject{{u"fr"_s, u"Catégorie %1"_s.arg(id)}}}};
+        writeFile(dir.filePath(u"pkgInfo.json"_s), QJsonDocument(info).toJson());
+        writeFile(dir.filePath(u"phrases.json"_s), QJsonDocument(phrases).toJson());
+    }
+
+    static void writeFile(const QString &path, const QByteArray &bytes)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+        file.write(bytes);
+    }
+
+    [[nodiscard]] QString source() const { return m_dir.filePath(u"src"_s); }
+    [[nodiscard]] QString output() const { return m_dir.filePath(u"out"_s); }
+
+    CliRun build() const { return runCli({u"content"_s, u"build"_s, source(), output()}); }
+
+    /// Builds and returns how many files the summary line says were made; -1 on failure.
+    int buildCountingMade() const
+    {
+        const CliRun run = build();
+        EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+        const QStringList lines = run.outLines();
+        EXPECT_EQ(lines.size(), 1) << run.out.toStdString();
+        static const QRegularExpression made(u"(\\d+) files made"_s);
+        const QRegularExpressionMatch match = made.match(lines.value(0));
+        EXPECT_TRUE(match.hasMatch()) << run.out.toStdString();
+        return run.exitCode == 0 && match.hasMatch() ? match.captured(1).toInt() : -1;
+    }
+
+    [[nodiscard]] Snapshot snapshot() const
+    {
+        Snapshot files;
+        const QDir root(output());
+        QDirIterator it(output(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            const QString path = it.next();
+            QFile file(path);
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            files.insert(root.relativeFilePath(path),
+                         QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256));
+        }
+        return files;
+    }
+
+    /// The paths of a phrase's voice and picture relative to the output, as the app finds them.
+    [[nodiscard]] QStringList mediaOf(const QString &categoryId, qsizetype index) const
+    {
+        ContentStore store(output());
+        PhraseInfo &found = *store.loadPhrases(categoryId)->at(index);
+        const QDir root(output());
+        return {root.relativeFilePath(store.soundPath(found)),
+                root.relativeFilePath(store.imagePath(found))};
+    }
+
+    static QStringList changedFiles(const Snapshot &before, const Snapshot &after)
+    {
+        QStringList changed;
+        for (auto it = after.cbegin(); it != after.cend(); ++it) {
+            if (before.value(it.key()) != it.value())
+                changed.append(it.key());
+        }
+        for (auto it = before.cbegin(); it != before.cend(); ++it) {
+            if (!after.contains(it.key()))
+                changed.append(it.key());
+        }
+        return sorted(changed);
+    }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+} // namespace
+
+TEST_F(ContentBuildTest, MakesACourseTheAppLoads)
+{
+    ASSERT_EQ(buildCountingMade(), 10) << "2 pkgInfo, 2 phrasesInfo, 3 voices, 3 pictures";
+
+    ContentStore store(output());
+    const QList<CategoryInfo *> &categories = store.loadAllCategories();
+    ASSERT_EQ(categories.size(), 2);
+    EXPECT_EQ(categories[0]->id, u"10"_s);
+    EXPECT_EQ(categories[1]->trans.value(u"fr"_s), u"Catégorie 2"_s);
+
+    const QList<PhraseInfo *> &phrases = store.allPhrases();
+    ASSERT_EQ(phrases.size(), 3);
+    const PhraseInfo &thanks = *phrases[1];
+    EXPECT_EQ(thanks.id, u"201"_s);
+    EXPECT_EQ(thanks.content, u"Danke schön!"_s);
+    EXPECT_EQ(thanks.phon, u"ˈbɪtə"_s);
+    EXPECT_EQ(thanks.trans.value(u"fr"_s), u"fr 201"_s);
+
+    Snapshot expected;
+    for (const QString &category : {u"2"_s, u"10"_s}) {
+        expected.insert(category + u"/pkgInfo"_s, {});
+        expected.insert(category + u"/phrasesInfo"_s, {});
+    }
+    for (PhraseInfo *each : phrases) {
+        SCOPED_TRACE(each->id.toStdString());
+        QFile voice(store.soundPath(*each));
+        ASSERT_TRUE(voice.open(QIODevice::ReadOnly));
+        const QByteArray head = voice.read(3);
+        // An MPEG audio frame or an ID3 tag in front of one.
+        EXPECT_TRUE(head.startsWith("ID3") ||
+                    (head.size() == 3 && static_cast<quint8>(head[0]) == 0xff &&
+                     (static_cast<quint8>(head[1]) & 0xe0) == 0xe0));
+        EXPECT_FALSE(QImage(store.imagePath(*each)).isNull());
+        for (const QString &media : mediaOf(each->categoryId, each->indexInCategory))
+            expected.insert(media, {});
+    }
+    EXPECT_EQ(snapshot().keys(), expected.keys()) << "the output holds nothing else";
+
+    // pkgInfo stays readable; the phrase list does not.
+    QFile info(QDir(output()).filePath(u"2/pkgInfo"_s));
+    ASSERT_TRUE(info.open(QIODevice::ReadOnly));
+    EXPECT_EQ(QJsonDocument::fromJson(info.readAll()).object().value(u"id"_s).toInt(), 2);
+    QFile list(QDir(output()).filePath(u"2/phrasesInfo"_s));
+    ASSERT_TRUE(list.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(QString::fromUtf8(list.readAll()).contains(u"Danke"_s));
+}
+
+TEST_F(ContentBuildTest, RebuildRemakesOnlyWhatChanged)
+{
+    ASSERT_EQ(buildCountingMade(), 10);
+    const Snapshot first = snapshot();
+
+    EXPECT_EQ(buildCountingMade(), 0);
+    EXPECT_EQ(snapshot(), first) << "an unchanged source gives the same bytes";
+
+    // New text: the list, the voice and the picture of that phrase, nothing else.
+    const QStringList media201 = mediaOf(u"2"_s, 0);
+    writeCategory(u"2"_s, 2, {phrase(201, u"Vielen Dank!"_s), phrase(202, u"Bitte."_s)});
+    EXPECT_EQ(buildCountingMade(), 3);
+    const Snapshot retexted = snapshot();
+    EXPECT_EQ(changedFiles(first, retexted), sorted(QStringList{u"2/phrasesInfo"_s} + media201));
+
+    // A translation is not spoken or drawn: only the list changes.
+    QJsonObject reworded = phrase(201, u"Vielen Dank!"_s);
+    reworded[u"wTrans"_s] = QJsonObject{{u"fr"_s, u"Merci beaucoup !"_s}};
+    writeCategory(u"2"_s, 2, {reworded, phrase(202, u"Bitte."_s)});
+    EXPECT_EQ(buildCountingMade(), 1);
+    const Snapshot translated = snapshot();
+    EXPECT_EQ(changedFiles(retexted, translated), QStringList{u"2/phrasesInfo"_s});
+
+    // A removed phrase takes its voice and picture with it.
+    const QStringList media202 = mediaOf(u"2"_s, 1);
+    writeCategory(u"2"_s, 2, {reworded});
+    EXPECT_EQ(buildCountingMade(), 1);
+    EXPECT_EQ(changedFiles(translated, snapshot()),
+              sorted(QStringList{u"2/phrasesInfo"_s} + media202));
+    for (const QString &media : media202)
+        EXPECT_FALSE(QFileInfo::exists(QDir(output()).filePath(media))) << media.toStdString();
+    EXPECT_EQ(ContentStore(output()).allPhrases().size(), 2);
+}
+
+TEST_F(ContentBuildTest, BadSourcesFailAndLeaveTheOutputAlone)
+{
+    ASSERT_EQ(buildCountingMade(), 10);
+    const Snapshot built = snapshot();
+
+    // Phrase ids name the media files, so a repeat within or across categories is refused.
+    writeCategory(u"2"_s, 2, {phrase(201, u"Danke schön!"_s), phrase(201, u"Bitte."_s)});
+    expectOneLineFailure(build(), u"201"_s);
+    writeCategory(u"2"_s, 2, {phrase(201, u"Danke schön!"_s), phrase(1001, u"Bitte."_s)});
+    expectOneLineFailure(build(), u"1001"_s);
+    writeCategory(u"2"_s, 2, {phrase(201, u"Danke schön!"_s), phrase(202, u"Bitte."_s)});
+
+    // The folder name is the category id the app loads media under.
+    writeCategory(u"10"_s, 11, {phrase(1001, u"Guten Morgen!"_s)});
+    const CliRun mismatch = build();
+    expectOneLineFailure(mismatch, u"11"_s);
+    EXPECT_TRUE(mismatch.err.contains(u"folder 10"_s)) << mismatch.err.toStdString();
+
+    EXPECT_EQ(snapshot(), built) << "a failed build must not touch the last good course";
+}

@@ -1,13 +1,45 @@
 import QtQuick
 import QtQuick.Controls
+import Tolvane
 
 ApplicationWindow {
+    id: window
+
     width: 375
     height: 667
     visible: true
     title: qsTr("Tolvane")
+
+    // The window stands for the phone's screen: every view scales from its size.
+    onWidthChanged: LayoutMetrics.setScreenSize(width, height)
+    onHeightChanged: LayoutMetrics.setScreenSize(width, height)
+    Component.onCompleted: LayoutMetrics.setScreenSize(width, height)
+
     StackView {
+        id: stack
+        objectName: "stack"
+
+        // The point the moving screen grows out of or shrinks into; a screen sets it just
+        // before it pushes or pops (see BasePage).
+        property point hitPoint: Qt.point(width / 2, height / 2)
+
         anchors.fill: parent
         initialItem: MainPage {}
+
+        pushEnter: ZoomTransition {
+            id: grow
+            origin: stack.hitPoint
+        }
+        popExit: ZoomTransition {
+            origin: stack.hitPoint
+            shrinking: true
+        }
+        // The screen underneath stays in place, visible, while the other one moves.
+        pushExit: Transition {
+            PauseAnimation { duration: grow.duration }
+        }
+        popEnter: Transition {
+            PauseAnimation { duration: grow.duration }
+        }
     }
 }

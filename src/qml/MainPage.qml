@@ -1,2 +1,158 @@
 import QtQuick
-Item {}
+import QtQuick.Controls
+import Tolvane
+
+// The main screen: the learner's experience total above the course's categories. A category
+// opens out of the row that was tapped, or out of the current row on Return.
+BasePage {
+    id: page
+
+    function openCategory(row, point) {
+        list.currentIndex = row.index
+        open(categoryPage, { categoryId: row.categoryId }, row.mapToItem(page, point))
+    }
+
+    title: qsTr("Tolvane")
+
+    // Coming back from a screen that earned points shows the new total.
+    StackView.onActivated: controller.refresh()
+
+    MainViewController {
+        id: controller
+    }
+
+    Component {
+        id: categoryPage
+        CategoryPage {}
+    }
+
+    ListView {
+        id: list
+        objectName: "categoryList"
+
+        // The current row is marked only once the keyboard moves it; before that it would look
+        // like a selection nobody made.
+        property bool steeredByKeys: false
+
+        function openCurrent() {
+            if (currentItem)
+                page.openCategory(currentItem, Qt.point(currentItem.width / 2, currentItem.height / 2))
+        }
+
+        anchors.fill: parent
+        focus: true
+        clip: true
+        model: controller.categories
+        ScrollIndicator.vertical: ScrollIndicator {}
+
+        Keys.onPressed: event => {
+            steeredByKeys = true
+            event.accepted = false
+        }
+        Keys.onReturnPressed: openCurrent()
+        Keys.onEnterPressed: openCurrent()
+
+        header: Column {
+            width: ListView.view.width
+            topPadding: page.margin
+            spacing: page.margin
+
+            Rectangle {
+                x: page.margin
+                width: parent.width - 2 * page.margin
+                height: 64 * LayoutMetrics.scaleY
+                radius: 8 * LayoutMetrics.scaleX
+                color: "white"
+
+                VoLabel {
+                    anchors.left: parent.left
+                    anchors.leftMargin: page.margin
+                    anchors.right: total.left
+                    height: parent.height
+                    text: qsTr("Experience")
+                    font.pixelSize: 17 * page.textScale
+                    font.bold: true
+                }
+                VoLabel {
+                    id: total
+                    objectName: "experienceTotal"
+                    anchors.right: parent.right
+                    anchors.rightMargin: page.margin
+                    height: parent.height
+                    text: controller.experienceTotal.toLocaleString(Qt.locale(), "f", 0)
+                    font.pixelSize: 30 * page.textScale
+                    font.bold: true
+                    color: AppColors.experience
+                    wrapMode: Text.NoWrap
+                }
+            }
+
+            Label {
+                x: page.margin
+                bottomPadding: 4 * LayoutMetrics.scaleY
+                text: qsTr("Categories")
+                font.pixelSize: 13 * page.textScale
+                font.capitalization: Font.AllUppercase
+                color: AppColors.secondaryText
+            }
+        }
+
+        delegate: ItemDelegate {
+            id: row
+
+            required property int index
+            required property string categoryId
+            required property string name
+            required property string germanName
+            required property int phraseCount
+
+            objectName: "categoryRow"
+            width: ListView.view.width
+            leftPadding: page.margin
+            rightPadding: page.margin
+            topPadding: 10 * LayoutMetrics.scaleY
+            bottomPadding: 10 * LayoutMetrics.scaleY
+            focusPolicy: Qt.NoFocus
+            Accessible.name: name
+
+            onClicked: page.openCategory(row, Qt.point(pressX, pressY))
+
+            background: RowBackground {
+                separatorInset: page.margin
+                tint: row.down ? 0.16 : (row.ListView.isCurrentItem && list.steeredByKeys && list.activeFocus ? 0.07 : 0)
+            }
+
+            contentItem: Column {
+                spacing: 3 * LayoutMetrics.scaleY
+
+                VoLabel {
+                    objectName: "categoryName"
+                    width: parent.width
+                    text: row.name
+                    font.pixelSize: 17 * page.textScale
+                    color: AppColors.text
+                }
+                Item {
+                    width: parent.width
+                    height: Math.max(german.height, count.height)
+
+                    VoLabel {
+                        id: german
+                        width: parent.width - count.width - page.margin
+                        text: row.germanName
+                        font.pixelSize: 13 * page.textScale
+                        color: AppColors.secondaryText
+                    }
+                    VoLabel {
+                        id: count
+                        anchors.right: parent.right
+                        text: qsTr("%n phrases", "", row.phraseCount)
+                        font.pixelSize: 13 * page.textScale
+                        color: AppColors.secondaryText
+                        wrapMode: Text.NoWrap
+                    }
+                }
+            }
+        }
+    }
+}

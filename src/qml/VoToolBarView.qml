@@ -46,21 +46,12 @@ Rectangle {
             Accessible.role: Accessible.TitleBar
         }
 
-        ToolButton {
+        IconButton {
             id: backButton
             objectName: "backButton"
             width: toolBar.btnWidth
             height: toolBar.barHeight
             icon.source: "icons/btn_back.svg"
-            icon.color: "transparent"
-            icon.width: width
-            icon.height: height
-            padding: 0
-            focusPolicy: Qt.NoFocus
-            background: Rectangle {
-                color: "white"
-                opacity: backButton.down ? 0.2 : 0
-            }
             Accessible.name: qsTr("Back")
             onClicked: toolBar.back()
         }

@@ -1,0 +1,122 @@
+#include "AppWindow.h"
+
+#include "app/AppDelegate.h"
+#include "app/Preferences.h"
+#include "content/AppCommon.h"
+#include "support/TestPaths.h"
+
+#include <QDir>
+#include <QQuickItem>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TolvanePlugin)
+
+using namespace Qt::StringLiterals;
+
+namespace {
+void startOnce()
+{
+    static const bool started = [] {
+        setResourceRoot(TestPaths::course());
+        Preferences::instance().setLanguageType(u"en"_s);
+        QQuickStyle::setStyle(u"Basic"_s);
+        return AppDelegate().didFinishLaunching();
+    }();
+    (void)started;
+}
+} // namespace
+
+AppWindow::AppWindow()
+{
+    startOnce();
+    m_engine.load(QUrl(u"qrc:/Tolvane/Main.qml"_s));
+    if (m_engine.rootObjects().isEmpty())
+        qFatal("Main.qml did not load");
+    m_window = qobject_cast<QQuickWindow *>(m_engine.rootObjects().constFirst());
+    if (!m_window || !QTest::qWaitForWindowExposed(m_window))
+        qFatal("the app window did not show");
+    m_window->requestActivate();
+    (void)QTest::qWaitForWindowActive(m_window);
+    m_stack = m_window->findChild<QQuickItem *>(u"stack"_s);
+    if (!m_stack)
+        qFatal("the app window has no screen stack");
+}
+
+// Left to the engine, the window and its renderer go first and the pictures the screens showed
+// are released afterwards, too late for the software renderer to free their textures (the leak
+// checker sees them). So: screens first, then the picture cache, then one frame to free them.
+// Screens taken apart while the window lives make their bindings complain about missing
+// parents; that is expected here and kept out of the test output.
+AppWindow::~AppWindow()
+{
+    m_engine.setOutputWarningsToStandardError(false);
+    delete m_stack;
+    m_window->releaseResources();
+    (void)m_window->grabWindow();
+}
+
+QQuickItem *AppWindow::currentPage() const
+{
+    return m_stack->property("currentItem").value<QQuickItem *>();
+}
+
+int AppWindow::depth() const
+{
+    return m_stack->property("depth").toInt();
+}
+
+bool AppWindow::waitForDepth(int wanted) const
+{
+    return QTest::qWaitFor(
+        [&] { return depth() == wanted && !m_stack->property("busy").toBool(); });
+}
+
+QQuickItem *AppWindow::listRow(QQuickItem *list, int index)
+{
+    constexpr int contain = 4; // ListView.Contain
+    QMetaObject::invokeMethod(list, "positionViewAtIndex", Q_ARG(int, index), Q_ARG(int, contain));
+    QQuickItem *row = nullptr;
+    QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, row),
+                              Q_ARG(int, index));
+    return row;
+}
+
+void AppWindow::tap(QQuickItem *item, QPointF point) const
+{
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, item->mapToScene(point).toPoint());
+}
+
+void AppWindow::tapCentre(QQuickItem *item) const
+{
+    tap(item, QPointF(item->width() / 2, item->height() / 2));
+}
+
+QImage AppWindow::screenshot(const QString &name) const
+{
+    const QString folder = TestPaths::buildDir() + u"/screenshots/"_s;
+    QDir().mkpath(folder);
+    QImage image = m_window->grabWindow();
+    image.save(folder + name + u".png"_s);
+    return image;
+}
+
+QList<QQuickItem *> findItems(QQuickItem *root, const QString &objectName)
+{
+    QList<QQuickItem *> found;
+    const QList<QQuickItem *> children = root->childItems();
+    for (QQuickItem *child : children) {
+        if (child->objectName() == objectName)
+            found.append(child);
+        found.append(findItems(child, objectName));
+    }
+    return found;
+}
+
+QQuickItem *findItem(QQuickItem *root, const QString &objectName)
+{
+    const QList<QQuickItem *> found = findItems(root, objectName);
+    return found.isEmpty() ? nullptr : found.constFirst();
+}

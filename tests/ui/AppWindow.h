@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QImage>
+#include <QPointF>
+#include <QQmlApplicationEngine>
+#include <QString>
+
+class QQuickItem;
+class QQuickWindow;
+
+/**
+ * @brief The app as main.cpp brings it up, on the sample course the build made, with its
+ * window shown and in English.
+ *
+ * Start-up runs once per test program, so the experience total after it is that of a first
+ * start. Each instance loads a fresh window.
+ */
+class AppWindow {
+public:
+    AppWindow();
+    ~AppWindow();
+    AppWindow(const AppWindow &) = delete;
+    AppWindow &operator=(const AppWindow &) = delete;
+
+    [[nodiscard]] QQuickWindow *window() const { return m_window; }
+    [[nodiscard]] QQmlEngine &engine() { return m_engine; }
+    [[nodiscard]] QQuickItem *stack() const { return m_stack; }
+    [[nodiscard]] QQuickItem *currentPage() const;
+    [[nodiscard]] int depth() const;
+
+    /// Waits until the stack holds that many screens and no transition runs.
+    [[nodiscard]] bool waitForDepth(int depth) const;
+
+    /// A row a list view shows, scrolled into view first.
+    [[nodiscard]] static QQuickItem *listRow(QQuickItem *list, int index);
+
+    /// A left click at a point of the item, through the window as a mouse would.
+    void tap(QQuickItem *item, QPointF point) const;
+    void tapCentre(QQuickItem *item) const;
+
+    /// Grabs the window and keeps the picture as screenshots/{name}.png in the build folder.
+    [[nodiscard]] QImage screenshot(const QString &name) const;
+
+private:
+    QQmlApplicationEngine m_engine;
+    QQuickWindow *m_window{nullptr};
+    QQuickItem *m_stack{nullptr};
+};
+
+/// The first item below root (in the scene, not the object tree) with the object name.
+[[nodiscard]] QQuickItem *findItem(QQuickItem *root, const QString &objectName);
+/// Every item below root with the object name.
+[[nodiscard]] QList<QQuickItem *> findItems(QQuickItem *root, const QString &objectName);

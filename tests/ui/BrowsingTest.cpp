@@ -1,0 +1,172 @@
+#include "AppWindow.h"
+#include "app/AppColors.h"
+#include "app/UserRecord.h"
+#include "content/AppCommon.h"
+#include "content/UserInfoFile.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSet>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString textOf(QQuickItem *root, const QString &objectName)
+{
+    QQuickItem *item = findItem(root, objectName);
+    return item ? item->property("text").toString() : u"<no %1>"_s.arg(objectName);
+}
+
+QString toolBarTitle(const AppWindow &app)
+{
+    return textOf(app.currentPage(), u"toolBarTitle"_s);
+}
+
+// A screenshot that shows the app: the window's size, the tool bar's colour at the top and
+// enough different colours below it to be text rather than an empty page.
+void expectPainted(const QImage &image, QSize size)
+{
+    ASSERT_FALSE(image.isNull());
+    EXPECT_EQ(image.size(), size);
+    EXPECT_EQ(image.pixelColor(image.width() / 2, 4).rgb(), AppColors::barBlue().rgb());
+    QSet<QRgb> colours;
+    for (int y = image.height() / 8; y < image.height(); y += 2)
+        for (int x = 0; x < image.width(); x += 2)
+            colours.insert(image.pixel(x, y));
+    EXPECT_GT(colours.size(), 20);
+}
+
+CategoryInfo &category(int index)
+{
+    return *loadAllCategories().at(index);
+}
+
+class BrowsingTest : public ::testing::Test {
+protected:
+    AppWindow app;
+
+    [[nodiscard]] QQuickItem *categoryRow(int index) const
+    {
+        return AppWindow::listRow(findItem(app.stack(), u"categoryList"_s), index);
+    }
+
+    void expectCategoryScreen(const CategoryInfo &shown) const
+    {
+        EXPECT_EQ(toolBarTitle(app), shown.trans.value(u"en"_s));
+        QQuickItem *list = findItem(app.currentPage(), u"phraseList"_s);
+        ASSERT_NE(list, nullptr);
+        const QList<PhraseInfo *> &phrases = *loadPhrases(shown.id);
+        EXPECT_EQ(list->property("count").toInt(), phrases.size());
+        QQuickItem *first = AppWindow::listRow(list, 0);
+        ASSERT_NE(first, nullptr);
+        EXPECT_EQ(textOf(first, u"phraseText"_s), foreignText(*phrases.constFirst()));
+        EXPECT_EQ(textOf(first, u"phraseTranslation"_s),
+                  phrases.constFirst()->trans.value(u"en"_s));
+    }
+};
+
+} // namespace
+
+TEST_F(BrowsingTest, MainScreenShowsEveryCategoryAndTheExperienceTotal)
+{
+    EXPECT_EQ(toolBarTitle(app), u"Tolvane"_s);
+    EXPECT_EQ(textOf(app.currentPage(), u"experienceTotal"_s), u"10"_s);
+    EXPECT_FALSE(findItem(app.currentPage(), u"backButton"_s)->isVisible());
+    expectPainted(app.screenshot(u"main"_s), app.window()->size());
+
+    const QList<CategoryInfo *> &categories = loadAllCategories();
+    ASSERT_FALSE(categories.isEmpty());
+    QQuickItem *list = findItem(app.stack(), u"categoryList"_s);
+    EXPECT_EQ(list->property("count").toInt(), categories.size());
+    for (int i = 0; i < categories.size(); ++i) {
+        QQuickItem *row = categoryRow(i);
+        ASSERT_NE(row, nullptr) << i;
+        EXPECT_EQ(textOf(row, u"categoryName"_s), categories.at(i)->trans.value(u"en"_s));
+    }
+}
+
+TEST_F(BrowsingTest, TappingACategoryOpensItsPhrasesAndTheBackButtonReturns)
+{
+    QQuickItem *row = categoryRow(1);
+    ASSERT_NE(row, nullptr);
+    app.tapCentre(row);
+    ASSERT_TRUE(app.waitForDepth(2));
+    expectCategoryScreen(category(1));
+    expectPainted(app.screenshot(u"category"_s), app.window()->size());
+
+    // Points earned on the way show on the main screen once the learner is back.
+    incrementUserInfoCounter(UserInfoKey::listenCount);
+    QQuickItem *back = findItem(app.currentPage(), u"backButton"_s);
+    ASSERT_TRUE(back && back->isVisible());
+    app.tapCentre(back);
+    ASSERT_TRUE(app.waitForDepth(1));
+    EXPECT_EQ(toolBarTitle(app), u"Tolvane"_s);
+    EXPECT_EQ(textOf(app.currentPage(), u"experienceTotal"_s), u"15"_s);
+    setUserInfoInt(UserInfoKey::listenCount, 0);
+}
+
+// The screen must grow out of the finger, not out of a corner or the middle: while it scales,
+// the tapped point of the screen stays where it was tapped, on the way in and on the way out.
+TEST_F(BrowsingTest, ZoomKeepsTheTappedPointInPlace)
+{
+    QQuickItem *row = categoryRow(2);
+    ASSERT_NE(row, nullptr);
+    const QPointF tapped = row->mapToScene(QPointF(row->width() * 0.8, row->height() / 2));
+    QTest::mouseClick(app.window(), Qt::LeftButton, Qt::NoModifier, tapped.toPoint());
+
+    const auto expectFixedWhileScaling = [&](bool growing) {
+        QQuickItem *moving = app.stack()->childItems().constLast();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return moving->scale() > 0.2 && moving->scale() < 0.8; }))
+            << (growing ? "push" : "pop");
+        const QPointF now = moving->mapToScene(app.stack()->mapFromScene(tapped));
+        EXPECT_NEAR(now.x(), tapped.x(), 1.5);
+        EXPECT_NEAR(now.y(), tapped.y(), 1.5);
+        EXPECT_GT(moving->opacity(), 0);
+        EXPECT_LT(moving->opacity(), 1);
+    };
+    expectFixedWhileScaling(true);
+    ASSERT_TRUE(app.waitForDepth(2));
+    EXPECT_DOUBLE_EQ(app.currentPage()->scale(), 1);
+    EXPECT_EQ(app.currentPage()->position(), QPointF(0, 0));
+
+    // A mouse in the middle of the window would not be the point to shrink into.
+    app.tapCentre(findItem(app.currentPage(), u"backButton"_s));
+    expectFixedWhileScaling(false);
+    ASSERT_TRUE(app.waitForDepth(1));
+}
+
+TEST_F(BrowsingTest, KeyboardMovesThroughCategoriesOpensThemAndGoesBack)
+{
+    const QList<std::pair<Qt::Key, Qt::KeyboardModifiers>> backKeys{
+        {Qt::Key_Escape, Qt::NoModifier},
+        {Qt::Key_Backspace, Qt::NoModifier},
+        {Qt::Key_Left, Qt::AltModifier}};
+    int expected = 0;
+    for (const auto &[key, modifiers] : backKeys) {
+        QTest::keyClick(app.window(), Qt::Key_Down);
+        ++expected;
+        QTest::keyClick(app.window(), Qt::Key_Return);
+        ASSERT_TRUE(app.waitForDepth(2)) << key;
+        EXPECT_EQ(toolBarTitle(app), category(expected).trans.value(u"en"_s));
+        QTest::keyClick(app.window(), key, modifiers);
+        ASSERT_TRUE(app.waitForDepth(1)) << key;
+    }
+    QTest::keyClick(app.window(), Qt::Key_Escape);
+    EXPECT_EQ(app.depth(), 1);
+}
+
+// A held key repeats and an impatient finger taps again while the screen is still growing; the
+// learner still gets one screen to go back from, not two.
+TEST_F(BrowsingTest, OpeningAgainDuringTheZoomOpensNothingMore)
+{
+    QTest::keyClick(app.window(), Qt::Key_Return);
+    QTest::keyClick(app.window(), Qt::Key_Return);
+    app.tapCentre(categoryRow(3));
+    ASSERT_TRUE(app.waitForDepth(2));
+    QTest::qWait(200);
+    EXPECT_EQ(app.depth(), 2);
+    EXPECT_EQ(toolBarTitle(app), category(0).trans.value(u"en"_s));
+}

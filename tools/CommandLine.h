@@ -31,3 +31,8 @@ int runContentCommand(const CommandLine &command);
 int runCryptCommand(const CommandLine &command);
 int runWordsCommand(const CommandLine &command);
 int runRecordCommand(const CommandLine &command);
+int runAcousticCommand(const CommandLine &command);
+int runLmCommand(const CommandLine &command);
+int runAssessCommand(const CommandLine &command);
+int runSpectrumCommand(const CommandLine &command);
+int runScoreCommand(const CommandLine &command);

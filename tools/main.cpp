@@ -86,6 +86,11 @@ int main(int argc, char *argv[])
         {QStringLiteral("crypt"), runCryptCommand},
         {QStringLiteral("words"), runWordsCommand},
         {QStringLiteral("record"), runRecordCommand},
+        {QStringLiteral("acoustic"), runAcousticCommand},
+        {QStringLiteral("lm"), runLmCommand},
+        {QStringLiteral("assess"), runAssessCommand},
+        {QStringLiteral("spectrum"), runSpectrumCommand},
+        {QStringLiteral("score"), runScoreCommand},
     };
     const QString name = arguments.takeFirst();
     const auto command = commands.find(name);

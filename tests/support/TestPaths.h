@@ -14,6 +14,8 @@ inline QString course()
 {
     return QStringLiteral(TOLVANE_COURSE_DIR);
 }
+/// The acoustic model folder the build made, with its pronunciation list.
+inline QString acousticModel() { return QStringLiteral(TOLVANE_ACOUSTIC_DIR); }
 inline QString buildDir()
 {
     return QStringLiteral(TOLVANE_BUILD_DIR);

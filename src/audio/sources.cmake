@@ -1,0 +1,5 @@
+# Audio decoding, WAV files and the lap timer.
+target_sources(tolvane_core PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/AudioDataInfo.h
+  ${CMAKE_CURRENT_LIST_DIR}/AudioPowerSpectrumInfo.h
+)

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "AudioDataInfo.h"
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+/**
+ * @brief Turns audio files into 16-bit PCM for the recogniser.
+ *
+ * Compressed input (MP3, ALAC, FLAC, Ogg, ...) arrives as 16 kHz mono 16-bit samples;
+ * uncompressed input (WAV and other linear PCM) arrives in its own sample format, untouched.
+ * The record describes the file, not the delivered samples, a quirk the callers rely on.
+ */
+class VoAudioUtil {
+public:
+    /// 0 on success; otherwise an error code, with one log line saying what failed and where.
+    static int32_t decodeAudioDataFromFile(const QString &path, AudioDataInfo &audioData);
+
+    /// The bytes as native-order 16-bit samples, size / 2 of them.
+    [[nodiscard]] static std::vector<int16_t> getAudioDataShortForByte(const AudioDataInfo &info);
+
+    /// Reads this app's own WAV-like layout (see the implementation); a file that does not match
+    /// leaves the record as it was.
+    static void decodeWaveData(const QString &path, AudioDataInfo &audioData);
+
+    /// Writes the source's audio as 16 kHz mono 16-bit PCM WAV to the documents folder under the
+    /// given file name, replacing any file there.
+    static void convert2PCM(const QString &sourcePath, const QString &pcmFileName);
+};

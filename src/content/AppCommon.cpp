@@ -139,12 +139,14 @@ const QList<PhraseInfo *> *ContentStore::loadPhrases(const QString &categoryId)
     const auto bytes = VoFileUtil::readFile(path);
     if (!bytes)
         contentError(__LINE__, QStringLiteral("cannot read %1").arg(path));
-    const auto cipher = TextHelpers::fromUtf8Strict(*bytes);
+    // The list stays in bytes from file to parser: Base64 is ASCII, and the JSON parser rejects
+    // plain text that is not UTF-8 itself, so no text conversion is needed on this hot path.
+    auto cipher = QByteArray::fromBase64Encoding(*bytes, QByteArray::AbortOnBase64DecodingErrors);
     const auto plain =
-        cipher ? VoCryptor::decryptWithDES(*cipher, VoCryptor::contentKey) : std::nullopt;
+        cipher ? VoCryptor::decryptData(*cipher, VoCryptor::contentKey) : std::nullopt;
     if (!plain)
         contentError(__LINE__, QStringLiteral("cannot decipher %1").arg(path));
-    const QJsonDocument document = readJson(__LINE__, plain->toUtf8(), path);
+    const QJsonDocument document = readJson(__LINE__, *plain, path);
     if (!document.isArray())
         contentError(__LINE__, QStringLiteral("%1 is not a JSON array").arg(path));
 

@@ -38,6 +38,17 @@ std::optional<QString> base64Decode(const QString &text)
     return bytes ? fromUtf8Strict(*bytes) : std::nullopt;
 }
 
+QStringList wordsMatching(const QRegularExpression &pattern, const QString &text, bool uppercased)
+{
+    QStringList words;
+    const QString terminated = text + QLatin1Char(' ');
+    for (auto it = pattern.globalMatch(terminated); it.hasNext();) {
+        const QString found = it.next().captured(1);
+        words.append(uppercased ? found.toUpper() : found);
+    }
+    return words;
+}
+
 std::optional<QByteArray> base64Bytes(const QString &text)
 {
     auto decoded =

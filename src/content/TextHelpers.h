@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QRegularExpression>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 /**
@@ -20,6 +22,12 @@ namespace TextHelpers {
 [[nodiscard]] QString base64Encode(const QString &text);
 /// No text when the input is not valid Base64 or the decoded bytes are not UTF-8.
 [[nodiscard]] std::optional<QString> base64Decode(const QString &text);
+
+/// The first group of every match of the pattern, left to right, in the text with one blank
+/// appended (so that a pattern ending in a separator also finds the last word); upper-cased
+/// with full Unicode rules when asked.
+[[nodiscard]] QStringList wordsMatching(const QRegularExpression &pattern, const QString &text,
+                                        bool uppercased);
 
 /// The bytes of standard Base64 text; no bytes on any character outside the alphabet.
 [[nodiscard]] std::optional<QByteArray> base64Bytes(const QString &text);

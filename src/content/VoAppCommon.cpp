@@ -1,5 +1,7 @@
 #include "VoAppCommon.h"
 
+#include "TextHelpers.h"
+
 #include <QRegularExpression>
 
 namespace {
@@ -15,14 +17,7 @@ QStringList VoAppCommon::getAllWordFromText(const QString &text, bool uppercased
     static const QRegularExpression word(
         QStringLiteral("([^\\s.,!?\u3001\u3002]+)[\\s?!.,\u3001\u3002]"),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
-    QStringList words;
-    // The blank terminates the last word.
-    const QString terminated = text + QLatin1Char(' ');
-    for (auto it = word.globalMatch(terminated); it.hasNext();) {
-        const QString found = it.next().captured(1);
-        words.append(uppercased ? found.toUpper() : found);
-    }
-    return words;
+    return TextHelpers::wordsMatching(word, text, uppercased);
 }
 
 void VoAppCommon::setScreenSize(QSizeF size)

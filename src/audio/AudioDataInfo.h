@@ -6,9 +6,10 @@
 /**
  * @brief Decoded audio: the PCM bytes and what the decoder learned of the file.
  *
- * The fields keep the widths and meanings the recogniser and the WAV reader rely on; `size` is
- * the byte count the decoder expected, which may exceed the bytes actually in `data` (see
- * VoAudioUtil). The record owns its bytes.
+ * The fields keep the widths and meanings the recogniser and the WAV reader rely on. `size`
+ * counts exactly the bytes in `data`, so size / 2 samples can always be read from it; the other
+ * fields describe the file, not the delivered samples (see VoAudioUtil). The record owns its
+ * bytes.
  */
 struct AudioDataInfo {
     int32_t size{0};

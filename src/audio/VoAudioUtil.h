@@ -15,7 +15,8 @@
  */
 class VoAudioUtil {
 public:
-    /// 0 on success; otherwise an error code, with one log line saying what failed and where.
+    /// 0 on success; otherwise a libsndfile error number or one of AudioDecodeStatus, with one
+    /// log line saying what failed and where. On failure the record is left as it was.
     static int32_t decodeAudioDataFromFile(const QString &path, AudioDataInfo &audioData);
 
     /// The bytes as native-order 16-bit samples, size / 2 of them.

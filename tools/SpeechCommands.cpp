@@ -1,16 +1,198 @@
 #include "CommandLine.h"
+#include "audio/SpectrumImage.h"
+#include "audio/VoAudioUtil.h"
+#include "speech/FloatText.h"
+#include "speech/FrontEndFraming.h"
+#include "speech/LogPowerSpectrum.h"
+#include "speech/VoLanguageModelTrainer.h"
+#include "speech/VoPSRecognizer.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <cmath>
+
+namespace {
+
+const QString hmmOption = QStringLiteral("--hmm");
+
+/// The acoustic model folder: --hmm, else the one the app ships beside the program.
+QString acousticModelPath(const ParsedArguments &parsed)
+{
+    return parsed.values.value(hmmOption, VoLanguageModelTrainer().englishAcousticModelPath());
+}
+
+/// Generates the model files named `name` in `folder`; the failure's text when it fails.
+QString generateModel(const QStringList &words, const QString &name, const QString &folder,
+                      const QString &acousticModel, QVariantMap &files)
+{
+    VoLanguageModelTrainer trainer;
+    trainer.setLmBasePath(folder);
+    const LanguageModelError result =
+        trainer.generateLanguageModelFromArray(words, name, acousticModel);
+    if (!result.succeeded())
+        return result.description.isEmpty() ? QStringLiteral("error %1").arg(result.code)
+                                            : result.description;
+    files = result.userInfo;
+    return {};
+}
+
+QJsonObject wordJson(const QVariantMap &word)
+{
+    QJsonObject json = QJsonObject::fromVariantMap(word);
+    // Single-precision values print as the float they are, not as its widened double.
+    for (const QString &key : {QStringLiteral("logProbability"), QStringLiteral("lmWeightFactor")})
+        json.insert(key, shortestFloatText(word.value(key).toFloat()).toDouble());
+    return json;
+}
+
+void printAssessment(const CommandLine &command, const VoPSRecognizer &recognizer, float score,
+                     int mark, const QVariantMap &advices)
+{
+    command.out << "hypothesis: " << recognizer.hypothesis() << '\n';
+    for (const QVariantMap &word : recognizer.wordsInfo())
+        command.out << "word " << word.value(QStringLiteral("word")).toString() << " frames "
+                    << word.value(QStringLiteral("startFrame")).toLongLong() << '-'
+                    << word.value(QStringLiteral("endFrame")).toLongLong() << " probability "
+                    << shortestFloatText(word.value(QStringLiteral("logProbability")).toFloat())
+                    << " (log " << word.value(QStringLiteral("probability")).toInt()
+                    << ") acoustic " << word.value(QStringLiteral("acousticScore")).toLongLong()
+                    << " lm " << word.value(QStringLiteral("lmScore")).toLongLong() << '\n';
+    command.out << "score: " << shortestFloatText(score) << '\n';
+    command.out << "mark: " << mark << "/10\n";
+    for (auto advice = advices.cbegin(); advice != advices.cend(); ++advice)
+        command.out << "advice " << advice.key() << ": " << advice.value().toString() << '\n';
+}
+
+void printAssessmentJson(const CommandLine &command, const VoPSRecognizer &recognizer, float score,
+                         int mark, const QVariantMap &advices)
+{
+    QJsonArray words;
+    for (const QVariantMap &word : recognizer.wordsInfo())
+        words.append(wordJson(word));
+    const QJsonObject json{
+        {QStringLiteral("hypothesis"), recognizer.hypothesis()},
+        {QStringLiteral("words"), words},
+        // Qt writes doubles in their shortest form; going through the float's own shortest
+        // text keeps 60.000004 from printing as 60.000003814697266.
+        {QStringLiteral("score"), shortestFloatText(score).toDouble()},
+        {QStringLiteral("mark"), mark},
+        {QStringLiteral("advice"), QJsonObject::fromVariantMap(advices)},
+    };
+    command.out << QJsonDocument(json).toJson(QJsonDocument::Compact) << '\n';
+}
+
+} // namespace
 
 int runLmCommand(const CommandLine &command)
 {
-    return command.fail(QStringLiteral("lm: not built yet"));
+    const ParsedArguments parsed = ParsedArguments::parse(
+        command.arguments, {QStringLiteral("--name"), QStringLiteral("--out"), hmmOption});
+    if (!parsed.error.isEmpty())
+        return command.fail(QStringLiteral("lm: ") + parsed.error);
+    const QString name = parsed.values.value(QStringLiteral("--name"));
+    const QString folder = parsed.values.value(QStringLiteral("--out"));
+    if (name.isEmpty() || folder.isEmpty() || parsed.positional.isEmpty())
+        return command.fail(QStringLiteral("lm needs --name N --out DIR and at least one word"));
+    if (!QDir().mkpath(folder))
+        return command.fail(QStringLiteral("lm: can not make the folder %1").arg(folder));
+    QVariantMap files;
+    const QString error =
+        generateModel(parsed.positional, name, folder, acousticModelPath(parsed), files);
+    if (!error.isEmpty())
+        return command.fail(QStringLiteral("lm: ") + error);
+    command.out << files.value(QStringLiteral("LMPath")).toString() << '\n'
+                << files.value(QStringLiteral("DictionaryPath")).toString() << '\n';
+    return 0;
 }
 
+// The model is generated for the phrase's words into a temporary folder under the name "test",
+// as the comparison pop-up does, and removed afterwards.
 int runAssessCommand(const CommandLine &command)
 {
-    return command.fail(QStringLiteral("assess: not built yet"));
+    const QString jsonFlag = QStringLiteral("--json");
+    const ParsedArguments parsed = ParsedArguments::parse(
+        command.arguments, {QStringLiteral("--text"), hmmOption}, {jsonFlag});
+    if (!parsed.error.isEmpty())
+        return command.fail(QStringLiteral("assess: ") + parsed.error);
+    const QString text = parsed.values.value(QStringLiteral("--text"));
+    if (text.isEmpty() || parsed.positional.size() != 1)
+        return command.fail(QStringLiteral("assess needs --text PHRASE and one recording"));
+    const QString recording = parsed.positional.first();
+    if (!QFileInfo(recording).isFile())
+        return command.fail(QStringLiteral("assess: no recording at %1").arg(recording));
+
+    const QString acousticModel = acousticModelPath(parsed);
+    const QTemporaryDir folder;
+    if (!folder.isValid())
+        return command.fail(QStringLiteral("assess: can not make a temporary folder"));
+    QVariantMap files;
+    const QString error =
+        generateModel(VoPSRecognizer::getAllWordFromText(text, true), QStringLiteral("test"),
+                      folder.path(), acousticModel, files);
+    if (!error.isEmpty())
+        return command.fail(QStringLiteral("assess: ") + error);
+
+    VoPSRecognizer recognizer;
+    recognizer.runRecognitionOnWavFileAtPath(
+        recording, files.value(QStringLiteral("LMPath")).toString(),
+        files.value(QStringLiteral("DictionaryPath")).toString(), acousticModel, false);
+    // A recording that did not decode (or was too long) has been logged; there is nothing to
+    // score.
+    if (recognizer.audioData().empty())
+        return 1;
+    QVariantMap advices;
+    const float score = VoPSRecognizer::getScore(recognizer.wordsInfo(), text, advices);
+    const int mark = static_cast<int>(std::floor(score / 10.0F));
+    if (parsed.flags.contains(jsonFlag))
+        printAssessmentJson(command, recognizer, score, mark, advices);
+    else
+        printAssessment(command, recognizer, score, mark, advices);
+    return 0;
 }
 
+// The picture is drawn from the decoded recording with the acoustic model's front end, without
+// recognising: no phrase is needed, and the frames are the ones a recognition would make.
 int runSpectrumCommand(const CommandLine &command)
 {
-    return command.fail(QStringLiteral("spectrum: not built yet"));
+    const QString pngOption = QStringLiteral("--png");
+    const ParsedArguments parsed =
+        ParsedArguments::parse(command.arguments, {pngOption, hmmOption});
+    if (!parsed.error.isEmpty())
+        return command.fail(QStringLiteral("spectrum: ") + parsed.error);
+    const QString png = parsed.values.value(pngOption);
+    if (parsed.positional.size() != 1 || png.isEmpty())
+        return command.fail(QStringLiteral("spectrum needs one recording and --png OUT"));
+    const QString recording = parsed.positional.first();
+
+    if (!QFileInfo(recording).isFile())
+        return command.fail(QStringLiteral("spectrum: no recording at %1").arg(recording));
+    AudioDataInfo audio;
+    // The decoder has said what went wrong, in one line naming the file.
+    if (VoAudioUtil::decodeAudioDataFromFile(recording, audio) != 0)
+        return 1;
+    const std::vector<int16_t> samples = VoAudioUtil::getAudioDataShortForByte(audio);
+    if (static_cast<double>(samples.size()) / 16000.0 > VoPSRecognizer::longestRecordingSeconds)
+        return command.fail(QStringLiteral("spectrum: %1 is longer than %2 s")
+                                .arg(recording)
+                                .arg(VoPSRecognizer::longestRecordingSeconds));
+    const QString acousticModel = acousticModelPath(parsed);
+    const std::optional<FrontEndFraming> framing = FrontEndFraming::ofAcousticModel(acousticModel);
+    if (!framing)
+        return command.fail(
+            QStringLiteral("spectrum: no usable acoustic model at %1").arg(acousticModel));
+
+    const AudioPowerSpectrumInfo spectrum =
+        logPowerSpectrum(samples, framing->frameCount(samples.size()), *framing);
+    const QImage image = spectrumImage(spectrum);
+    if (image.isNull())
+        return command.fail(QStringLiteral("spectrum: %1 holds no frame").arg(recording));
+    if (!image.save(png, "PNG"))
+        return command.fail(QStringLiteral("spectrum: can not write %1").arg(png));
+    command.out << spectrum.frameCount << " frames, max log power "
+                << shortestFloatText(static_cast<float>(spectrum.maxPower)) << '\n';
+    return 0;
 }

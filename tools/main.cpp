@@ -7,15 +7,21 @@
 
 namespace {
 
-const char *const usage = "usage: tolvane-cli COMMAND ...\n"
-                          "  content list [--resources DIR] [--lang CODE] [--category ID]\n"
-                          "  content build SRC OUT\n"
-                          "  crypt encipher-plist IN [OUT] [--key KEY]\n"
-                          "  crypt decipher-file IN [--key KEY]\n"
-                          "  crypt encipher-data IN OUT [--key KEY]\n"
-                          "  crypt decipher-data IN OUT [--key KEY]\n"
-                          "  words [--upper] TEXT...\n"
-                          "  record show [--record FILE]\n";
+const char *const usage =
+    "usage: tolvane-cli COMMAND ...\n"
+    "  content list [--resources DIR] [--lang CODE] [--category ID]\n"
+    "  content build SRC OUT\n"
+    "  crypt encipher-plist IN [OUT] [--key KEY]\n"
+    "  crypt decipher-file IN [--key KEY]\n"
+    "  crypt encipher-data IN OUT [--key KEY]\n"
+    "  crypt decipher-data IN OUT [--key KEY]\n"
+    "  words [--upper] TEXT...\n"
+    "  record show [--record FILE]\n"
+    "  acoustic build --course DIR --model DIR --dict FILE --phones TABLE OUT\n"
+    "  lm --name NAME --out DIR WORD... [--hmm DIR]\n"
+    "  assess --text PHRASE RECORDING [--json] [--hmm DIR]\n"
+    "  score --text PHRASE --words FILE.json [--json]\n"
+    "  spectrum RECORDING --png OUT [--hmm DIR]\n";
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DecoderArguments.h"
 #include "SphinxHandles.h"
 #include "audio/AudioDataInfo.h"
 #include "audio/AudioPowerSpectrumInfo.h"
@@ -9,8 +10,12 @@
 #include <QStringList>
 #include <QVariantMap>
 #include <cstdint>
+#include <optional>
 #include <utility>
 #include <vector>
+
+class RecognitionClock;
+class VoCommandArray;
 
 /**
  * @brief Recognises one recording against a phrase's dictionary and language model, and scores
@@ -23,6 +28,10 @@
  * A word result is a record with the keys "word", "startFrame", "endFrame", "acousticScore",
  * "lmScore" (qint64), "probability" (int, the decoder's log base), "logProbability" (float:
  * despite its name the linear posterior, 0..1) and "lmWeightFactor" (float).
+ *
+ * The decoder runs with silence removal off, so its frames are the recording's frames: frame f
+ * starts at sample f x the frame shift, and the spectrum's row f is that same frame. Its dither
+ * has a fixed seed: the same recording gives the same results every time.
  */
 class VoPSRecognizer {
 public:
@@ -31,20 +40,42 @@ public:
     VoPSRecognizer(const VoPSRecognizer &) = delete;
     VoPSRecognizer &operator=(const VoPSRecognizer &) = delete;
 
-    /// Fills every result; on a failure (no decoder, undecodable audio) the results keep their
-    /// previous values, empty on a fresh recogniser.
+    /// Recordings longer than this are refused with a log line: a phrase takes seconds, and the
+    /// decoder's search and the spectrum grow with the length.
+    static constexpr double longestRecordingSeconds = 60.0;
+
+    /// Developer switches, off in normal use and shared by the whole process: the recogniser's
+    /// own traces (standard output) and the decoder library's log (standard error).
+    static void setVerboseRecognizer(bool on);
+    static void setVerboseDecoder(bool on);
+
+    /// Decodes the file to 16 kHz samples and recognises them; fills every result. On a failure
+    /// (no decoder, undecodable or over-long audio) the results keep their previous values,
+    /// empty on a fresh recogniser.
     void runRecognitionOnWavFileAtPath(const QString &wavPath, const QString &languageModelPath,
                                        const QString &dictionaryPath,
                                        const QString &acousticModelPath, bool languageModelIsJSGF);
-    /// Headerless 16-bit PCM; fills wordsInfo only. 0 on success, 1 on failure.
+    /// The same for 16 kHz mono samples already in memory; audioDataInfo is left as it was.
+    void runRecognitionOnSamples(std::vector<int16_t> samples, const QString &languageModelPath,
+                                 const QString &dictionaryPath, const QString &acousticModelPath,
+                                 bool languageModelIsJSGF);
+    /// Headerless 16-bit PCM; fills wordsInfo only and prints the hypothesis to standard output.
+    /// 0 on success, 1 on failure.
     int runRecognitionOnRawFileAtPath(const QString &rawPath, const QString &languageModelPath,
                                       const QString &dictionaryPath,
                                       const QString &acousticModelPath);
 
+    /// A decoder configured by VoCommandArray, or null (logged) when it cannot start.
     [[nodiscard]] sphinx::DecoderPtr initializeDecoder(const QString &languageModelPath,
                                                        const QString &dictionaryPath,
                                                        const QString &acousticModelPath,
                                                        bool languageModelIsJSGF);
+    /// The commands' option list wrapped for the option parser; null when it has fewer than 3
+    /// texts.
+    [[nodiscard]] static std::optional<DecoderArguments>
+    setUpCommandArray(const VoCommandArray &commands, bool secondItemIsEmpty,
+                      const QString &languageModelPath, const QString &dictionaryPath,
+                      const QString &acousticModelPath, bool isJSGF);
 
     [[nodiscard]] const QString &hypothesis() const { return m_hypothesis; }
     [[nodiscard]] const QList<QVariantMap> &wordsInfo() const { return m_wordsInfo; }
@@ -69,7 +100,11 @@ public:
     [[nodiscard]] static float getWordScore(const QVariantMap &wordResult);
 
 private:
-    void generateLogPowerSpectrumData(ps_decoder_t *decoder);
+    [[nodiscard]] static bool acceptsLength(size_t sampleCount, const QString &source);
+    /// Steps shared by both entry points once the utterance is open and the samples are stored.
+    void recognizeUtterance(ps_decoder_t *decoder, RecognitionClock &clock);
+    /// Rows for the first frameCount frames of the stored samples.
+    void generateLogPowerSpectrumData(ps_decoder_t *decoder, uint64_t frameCount);
     void getEveryWordProb(ps_decoder_t *decoder);
 
     std::vector<int16_t> m_audioData;

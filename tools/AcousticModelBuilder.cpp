@@ -1,0 +1,118 @@
+#include "AcousticModelBuilder.h"
+
+#include "GermanPronouncer.h"
+#include "ModelPhones.h"
+#include "PronunciationList.h"
+#include "content/AppCommon.h"
+#include "content/VoFileUtil.h"
+#include "speech/RecognizerWords.h"
+#include "speech/VoLanguageModelTrainer.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+#include <utility>
+
+namespace {
+
+/// The distinct words of the course's phrases as the recogniser splits them, upper-cased, in
+/// course order.
+QStringList courseWords(const QString &courseFolder)
+{
+    ContentStore store(courseFolder);
+    QStringList words;
+    for (const CategoryInfo *category : store.loadAllCategories()) {
+        for (const PhraseInfo *phrase : *store.loadPhrases(category->id))
+            words += recognizerWords(foreignText(*phrase), true);
+    }
+    words.removeDuplicates();
+    return words;
+}
+
+} // namespace
+
+AcousticModelBuilder::AcousticModelBuilder(Sources sources, QString outputFolder)
+    : m_sources(std::move(sources))
+    , m_outputFolder(std::move(outputFolder))
+{}
+
+bool AcousticModelBuilder::fail(const QString &message)
+{
+    m_error = message;
+    return false;
+}
+
+QString AcousticModelBuilder::summary() const
+{
+    return QStringLiteral("%1: %2 dictionary entries, %3 course words, %4 of them pronounced "
+                          "by espeak-ng")
+        .arg(m_outputFolder)
+        .arg(m_dictionaryEntries)
+        .arg(m_courseWords)
+        .arg(m_pronounced);
+}
+
+bool AcousticModelBuilder::build()
+{
+    if (!QFileInfo(m_sources.courseFolder).isDir())
+        return fail(QStringLiteral("no course at %1").arg(m_sources.courseFolder));
+    const std::optional<QStringList> modelPhones =
+        readModelPhones(QDir(m_sources.modelFolder).filePath(QStringLiteral("mdef")), m_error);
+    if (!modelPhones)
+        return false;
+    const std::optional<GermanPronouncer> pronouncer =
+        GermanPronouncer::fromTable(m_sources.phoneTablePath, *modelPhones, m_error);
+    if (!pronouncer)
+        return false;
+    std::optional<QList<Pronunciation>> list =
+        readPronunciationDictionary(m_sources.dictionaryPath, m_error);
+    if (!list)
+        return false;
+    m_dictionaryEntries = list->size();
+
+    QSet<QString> known;
+    for (const Pronunciation &entry : *list)
+        known.insert(entry.word);
+    const QStringList words = courseWords(m_sources.courseFolder);
+    m_courseWords = words.size();
+    QStringList unknown;
+    for (const QString &word : words) {
+        if (!known.contains(word))
+            unknown.append(word);
+    }
+    const std::optional<QStringList> phones = pronouncer->pronounce(unknown, m_error);
+    if (!phones)
+        return false;
+    for (qsizetype i = 0; i < unknown.size(); ++i)
+        list->append({unknown[i], 1, (*phones)[i]});
+    m_pronounced = unknown.size();
+    sortForLookup(*list);
+
+    if (!QDir().mkpath(m_outputFolder))
+        return fail(QStringLiteral("cannot make the folder %1").arg(m_outputFolder));
+    if (!copyModelFiles())
+        return false;
+    // Written last: the build takes this file for the whole folder.
+    const QString listPath =
+        QDir(m_outputFolder).filePath(QLatin1String(VoLanguageModelTrainer::lookupListFileName));
+    if (!VoFileUtil::writeFileAtomically(listPath, lookupListText(*list)))
+        return fail(QStringLiteral("cannot write %1").arg(listPath));
+    return true;
+}
+
+bool AcousticModelBuilder::copyModelFiles()
+{
+    const QDir model(m_sources.modelFolder);
+    const QStringList files = model.entryList(QDir::Files, QDir::Name);
+    if (files.isEmpty())
+        return fail(QStringLiteral("no model files in %1").arg(m_sources.modelFolder));
+    for (const QString &file : files) {
+        const std::optional<QByteArray> bytes = VoFileUtil::readFile(model.filePath(file));
+        if (!bytes)
+            return fail(QStringLiteral("cannot read %1").arg(model.filePath(file)));
+        const QString target = QDir(m_outputFolder).filePath(file);
+        if (!VoFileUtil::writeFileAtomically(target, *bytes))
+            return fail(QStringLiteral("cannot write %1").arg(target));
+    }
+    return true;
+}

@@ -4,6 +4,7 @@
 #include "speech/FloatText.h"
 #include "speech/FrontEndFraming.h"
 #include "speech/LogPowerSpectrum.h"
+#include "speech/PhraseAssessment.h"
 #include "speech/VoLanguageModelTrainer.h"
 #include "speech/VoPSRecognizer.h"
 
@@ -12,8 +13,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
-#include <cmath>
 
 namespace {
 
@@ -49,11 +48,10 @@ QJsonObject wordJson(const QVariantMap &word)
     return json;
 }
 
-void printAssessment(const CommandLine &command, const VoPSRecognizer &recognizer, float score,
-                     int mark, const QVariantMap &advices)
+void printAssessment(const CommandLine &command, const PhraseAssessment &assessment)
 {
-    command.out << "hypothesis: " << recognizer.hypothesis() << '\n';
-    for (const QVariantMap &word : recognizer.wordsInfo())
+    command.out << "hypothesis: " << assessment.hypothesis << '\n';
+    for (const QVariantMap &word : assessment.wordsInfo)
         command.out << "word " << word.value(QStringLiteral("word")).toString() << " frames "
                     << word.value(QStringLiteral("startFrame")).toLongLong() << '-'
                     << word.value(QStringLiteral("endFrame")).toLongLong() << " probability "
@@ -61,26 +59,25 @@ void printAssessment(const CommandLine &command, const VoPSRecognizer &recognize
                     << " (log " << word.value(QStringLiteral("probability")).toInt()
                     << ") acoustic " << word.value(QStringLiteral("acousticScore")).toLongLong()
                     << " lm " << word.value(QStringLiteral("lmScore")).toLongLong() << '\n';
-    command.out << "score: " << shortestFloatText(score) << '\n';
-    command.out << "mark: " << mark << "/10\n";
-    for (auto advice = advices.cbegin(); advice != advices.cend(); ++advice)
+    command.out << "score: " << shortestFloatText(assessment.score) << '\n';
+    command.out << "mark: " << assessment.mark << "/10\n";
+    for (auto advice = assessment.advices.cbegin(); advice != assessment.advices.cend(); ++advice)
         command.out << "advice " << advice.key() << ": " << advice.value().toString() << '\n';
 }
 
-void printAssessmentJson(const CommandLine &command, const VoPSRecognizer &recognizer, float score,
-                         int mark, const QVariantMap &advices)
+void printAssessmentJson(const CommandLine &command, const PhraseAssessment &assessment)
 {
     QJsonArray words;
-    for (const QVariantMap &word : recognizer.wordsInfo())
+    for (const QVariantMap &word : assessment.wordsInfo)
         words.append(wordJson(word));
     const QJsonObject json{
-        {QStringLiteral("hypothesis"), recognizer.hypothesis()},
+        {QStringLiteral("hypothesis"), assessment.hypothesis},
         {QStringLiteral("words"), words},
         // Qt writes doubles in their shortest form; going through the float's own shortest
         // text keeps 60.000004 from printing as 60.000003814697266.
-        {QStringLiteral("score"), shortestFloatText(score).toDouble()},
-        {QStringLiteral("mark"), mark},
-        {QStringLiteral("advice"), QJsonObject::fromVariantMap(advices)},
+        {QStringLiteral("score"), shortestFloatText(assessment.score).toDouble()},
+        {QStringLiteral("mark"), assessment.mark},
+        {QStringLiteral("advice"), QJsonObject::fromVariantMap(assessment.advices)},
     };
     command.out << QJsonDocument(json).toJson(QJsonDocument::Compact) << '\n';
 }
@@ -109,8 +106,6 @@ int runLmCommand(const CommandLine &command)
     return 0;
 }
 
-// The model is generated for the phrase's words into a temporary folder under the name "test",
-// as the comparison pop-up does, and removed afterwards.
 int runAssessCommand(const CommandLine &command)
 {
     const QString jsonFlag = QStringLiteral("--json");
@@ -125,32 +120,16 @@ int runAssessCommand(const CommandLine &command)
     if (!QFileInfo(recording).isFile())
         return command.fail(QStringLiteral("assess: no recording at %1").arg(recording));
 
-    const QString acousticModel = acousticModelPath(parsed);
-    const QTemporaryDir folder;
-    if (!folder.isValid())
-        return command.fail(QStringLiteral("assess: can not make a temporary folder"));
-    QVariantMap files;
-    const QString error =
-        generateModel(VoPSRecognizer::getAllWordFromText(text, true), QStringLiteral("test"),
-                      folder.path(), acousticModel, files);
-    if (!error.isEmpty())
-        return command.fail(QStringLiteral("assess: ") + error);
-
-    VoPSRecognizer recognizer;
-    recognizer.runRecognitionOnWavFileAtPath(
-        recording, files.value(QStringLiteral("LMPath")).toString(),
-        files.value(QStringLiteral("DictionaryPath")).toString(), acousticModel, false);
-    // A recording that did not decode (or was too long) has been logged; there is nothing to
-    // score.
-    if (recognizer.audioData().empty())
+    const PhraseAssessment assessment = assessRecording(text, recording, acousticModelPath(parsed));
+    // A recording that did not decode has been logged, in one line naming the file.
+    if (assessment.failure == PhraseAssessment::Failure::Recording)
         return 1;
-    QVariantMap advices;
-    const float score = VoPSRecognizer::getScore(recognizer.wordsInfo(), text, advices);
-    const int mark = static_cast<int>(std::floor(score / 10.0F));
+    if (!assessment.succeeded())
+        return command.fail(QStringLiteral("assess: ") + assessment.error);
     if (parsed.flags.contains(jsonFlag))
-        printAssessmentJson(command, recognizer, score, mark, advices);
+        printAssessmentJson(command, assessment);
     else
-        printAssessment(command, recognizer, score, mark, advices);
+        printAssessment(command, assessment);
     return 0;
 }
 

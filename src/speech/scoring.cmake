@@ -1,6 +1,8 @@
-# The phrase scorer: recognised words against the phrase's own words.
+# The phrase scorer: recognised words against the phrase's own words, and one recording judged
+# against a phrase from model generation to mark.
 target_sources(tolvane_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/FloatText.cpp ${CMAKE_CURRENT_LIST_DIR}/FloatText.h
+  ${CMAKE_CURRENT_LIST_DIR}/PhraseAssessment.cpp ${CMAKE_CURRENT_LIST_DIR}/PhraseAssessment.h
   ${CMAKE_CURRENT_LIST_DIR}/SpeechLog.cpp ${CMAKE_CURRENT_LIST_DIR}/SpeechLog.h
   ${CMAKE_CURRENT_LIST_DIR}/VoPSRecognizerScoring.cpp
 )

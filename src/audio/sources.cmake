@@ -4,7 +4,7 @@ target_sources(tolvane_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/AudioDecodeStatus.h
   ${CMAKE_CURRENT_LIST_DIR}/AudioHandles.h
   ${CMAKE_CURRENT_LIST_DIR}/AudioLog.cpp ${CMAKE_CURRENT_LIST_DIR}/AudioLog.h
-  ${CMAKE_CURRENT_LIST_DIR}/AudioPlayer.h
+  ${CMAKE_CURRENT_LIST_DIR}/AudioPlayer.cpp ${CMAKE_CURRENT_LIST_DIR}/AudioPlayer.h
   ${CMAKE_CURRENT_LIST_DIR}/AudioPowerSpectrumInfo.h
   ${CMAKE_CURRENT_LIST_DIR}/Mono16kResampler.cpp ${CMAKE_CURRENT_LIST_DIR}/Mono16kResampler.h
   ${CMAKE_CURRENT_LIST_DIR}/SoundFileReader.cpp ${CMAKE_CURRENT_LIST_DIR}/SoundFileReader.h

@@ -109,8 +109,9 @@ int runLmCommand(const CommandLine &command)
 int runAssessCommand(const CommandLine &command)
 {
     const QString jsonFlag = QStringLiteral("--json");
+    const QString verboseFlag = QStringLiteral("--verbose");
     const ParsedArguments parsed = ParsedArguments::parse(
-        command.arguments, {QStringLiteral("--text"), hmmOption}, {jsonFlag});
+        command.arguments, {QStringLiteral("--text"), hmmOption}, {jsonFlag, verboseFlag});
     if (!parsed.error.isEmpty())
         return command.fail(QStringLiteral("assess: ") + parsed.error);
     const QString text = parsed.values.value(QStringLiteral("--text"));
@@ -120,6 +121,10 @@ int runAssessCommand(const CommandLine &command)
     if (!QFileInfo(recording).isFile())
         return command.fail(QStringLiteral("assess: no recording at %1").arg(recording));
 
+    // The recogniser's traces and the decoder's own log, for finding out why a recording
+    // scores as it does.
+    VoPSRecognizer::setVerboseRecognizer(parsed.flags.contains(verboseFlag));
+    VoPSRecognizer::setVerboseDecoder(parsed.flags.contains(verboseFlag));
     const PhraseAssessment assessment = assessRecording(text, recording, acousticModelPath(parsed));
     // A recording that did not decode has been logged, in one line naming the file.
     if (assessment.failure == PhraseAssessment::Failure::Recording)

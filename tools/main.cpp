@@ -19,7 +19,7 @@ const char *const usage =
     "  record show [--record FILE]\n"
     "  acoustic build --course DIR --model DIR --dict FILE --phones TABLE OUT\n"
     "  lm --name NAME --out DIR WORD... [--hmm DIR]\n"
-    "  assess --text PHRASE RECORDING [--json] [--hmm DIR]\n"
+    "  assess --text PHRASE RECORDING [--json] [--verbose] [--hmm DIR]\n"
     "  score --text PHRASE --words FILE.json [--json]\n"
     "  spectrum RECORDING --png OUT [--hmm DIR]\n";
 

@@ -1,5 +1,7 @@
 #include "AudioPlayer.h"
 
+#include "TempoAudioPlayer.h"
+
 namespace {
 
 AudioPlayerFactory &installedFactory()
@@ -14,7 +16,7 @@ std::unique_ptr<AudioPlayer> makeAudioPlayer(const QString &path)
 {
     if (installedFactory())
         return installedFactory()(path);
-    return nullptr;
+    return TempoAudioPlayer::open(path, SoundDestination::defaultDevice);
 }
 
 void setAudioPlayerFactory(AudioPlayerFactory factory)

@@ -1,6 +1,8 @@
 #include "AppDelegate.h"
 
+#include "AppConfig.h"
 #include "Preferences.h"
+#include "RatingPrompt.h"
 #include "UserRecord.h"
 #include "content/AppCommon.h"
 #include "content/UserInfoFile.h"
@@ -13,5 +15,10 @@ bool AppDelegate::didFinishLaunching()
     Preferences::instance().setPlaySpeed(Preferences::defaultPlaySpeed);
     (void)allPhrases();
     record.increment(UserInfoKey::startCount);
+    // The prompt is never shown at launch: the main window asks once the learner comes back to
+    // the main screen from a study screen.
+    RatingPrompt &prompt = RatingPrompt::instance();
+    prompt.configure({AppConfig::appVersion(), 3, AppConfig::reviewPageUrl()});
+    prompt.logUse();
     return true;
 }

@@ -2,13 +2,13 @@
 
 /**
  * @brief Brings the app up before its first screen: the user record, the playback speed, the
- * whole course and the start counter.
+ * whole course, the start counter and the rating prompt.
  */
 class AppDelegate {
 public:
     /// Creates the record when missing (never extends an existing one), resets "playSpeed" to
-    /// 1.0 on purpose so a chosen speed lasts one run, loads every category and phrase, and
-    /// counts the start.
+    /// 1.0 on purpose so a chosen speed lasts one run, loads every category and phrase, counts
+    /// the start, and counts a use of this version for the rating prompt.
     bool didFinishLaunching();
 
     /// The phone keeps lock-screen controls alive here; the desktop has nothing to do.

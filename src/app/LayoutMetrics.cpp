@@ -12,7 +12,7 @@ LayoutMetrics::LayoutMetrics(QObject *parent)
 
 LayoutMetrics &LayoutMetrics::instance()
 {
-    static LayoutMetrics metrics;
+    static LayoutMetrics metrics(nullptr);
     return metrics;
 }
 

@@ -29,7 +29,9 @@ public:
     static constexpr double designWidth = 320;
     static constexpr double designHeight = 568;
 
-    explicit LayoutMetrics(QObject *parent = nullptr);
+    // No default argument: Qt 6.4 builds a QML singleton with the default constructor when there
+    // is one, and QML would read a second object that never hears of the window's size.
+    explicit LayoutMetrics(QObject *parent);
     static LayoutMetrics &instance();
     static LayoutMetrics *create(QQmlEngine *, QJSEngine *);
 

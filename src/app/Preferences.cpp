@@ -11,7 +11,7 @@ Preferences::Preferences(QObject *parent)
 
 Preferences &Preferences::instance()
 {
-    static Preferences preferences;
+    static Preferences preferences(nullptr);
     return preferences;
 }
 

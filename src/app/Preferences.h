@@ -31,7 +31,9 @@ public:
     static constexpr float defaultPlaySpeed = 1.0F;
     static constexpr float defaultTestDuration = 60.0F;
 
-    explicit Preferences(QObject *parent = nullptr);
+    // No default argument: Qt 6.4 builds a QML singleton with the default constructor when there
+    // is one, and QML would read a second object that never hears of changes made in C++.
+    explicit Preferences(QObject *parent);
 
     /// The app's preferences; QML gets the same object.
     static Preferences &instance();

@@ -9,6 +9,8 @@ FocusScope {
     id: page
 
     property alias title: toolBar.title
+    // What the tool bar shows on its right, if anything.
+    property alias rightButton: toolBar.rightButton
     // Where this screen grew out of, in the stack's coordinates; going back shrinks it into
     // the same point even when a deeper screen has used the stack's hit point since.
     property point openedFrom: Qt.point(width / 2, height / 2)

@@ -41,5 +41,16 @@ ApplicationWindow {
         popEnter: Transition {
             PauseAnimation { duration: grow.duration }
         }
+
+        // The learner is asked to rate the app on coming back to the main screen, never at
+        // launch, so the question follows some study rather than interrupting the start.
+        onBusyChanged: {
+            if (!busy && depth === 1 && RatingPrompt.shouldPrompt())
+                ratingPrompt.open()
+        }
+    }
+
+    RatingPromptDialog {
+        id: ratingPrompt
     }
 }

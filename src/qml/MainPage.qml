@@ -12,7 +12,14 @@ BasePage {
         open(categoryPage, { categoryId: row.categoryId }, row.mapToItem(page, point))
     }
 
+    // Opens a screen out of the centre of the tool bar button that asked for it.
+    function openFrom(button, component) {
+        open(component, {}, button.mapToItem(page, Qt.point(button.width / 2, button.height / 2)))
+    }
+
     title: qsTr("Tolvane")
+    // The user info button sits just left of the tool bar's one right-hand slot.
+    rightButton: toolButtons
 
     // Coming back from a screen that earned points shows the new total.
     StackView.onActivated: controller.refresh()
@@ -24,6 +31,51 @@ BasePage {
     Component {
         id: categoryPage
         CategoryPage {}
+    }
+    Component {
+        id: settingPage
+        SettingPage {}
+    }
+    Component {
+        id: userInfoPage
+        UserInfoPage {}
+    }
+
+    Component {
+        id: toolButtons
+        Item {
+            IconButton {
+                id: userInfoButton
+                objectName: "userInfoButton"
+                x: -width
+                width: parent.width
+                height: parent.height
+                icon.source: "icons/btn_userinfo.svg"
+                Accessible.name: qsTr("User Info")
+                onClicked: page.openFrom(userInfoButton, userInfoPage)
+            }
+            IconButton {
+                id: settingButton
+                objectName: "settingButton"
+                width: parent.width
+                height: parent.height
+                icon.source: "icons/btn_setting.svg"
+                Accessible.name: qsTr("Settings")
+                onClicked: page.openFrom(settingButton, settingPage)
+            }
+        }
+    }
+
+    // Desktop keys for the two tool bar buttons, while the main screen is the one shown.
+    Shortcut {
+        sequence: "Ctrl+,"
+        enabled: page.StackView.status === StackView.Active
+        onActivated: page.open(settingPage, {}, Qt.point(page.width, 0))
+    }
+    Shortcut {
+        sequence: "Ctrl+I"
+        enabled: page.StackView.status === StackView.Active
+        onActivated: page.open(userInfoPage, {}, Qt.point(page.width, 0))
     }
 
     ListView {

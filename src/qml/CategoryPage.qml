@@ -11,17 +11,30 @@ BasePage {
     property alias categoryId: controller.categoryId
 
     function openPhrase(row, point) {
-        // The phrase cards come with their own screen file; without it the list stays put.
-        const cards = Qt.createComponent("PhraseCardPage.qml")
-        if (cards.status !== Component.Ready) {
-            console.warn("No phrase cards to open:", cards.errorString())
-            return
-        }
-        open(cards, { categoryId: controller.categoryId, phraseIndex: row.index },
+        open(phraseCards, { categoryId: controller.categoryId, phraseIndex: row.index },
              row.mapToItem(page, point))
     }
 
     title: controller.title
+    rightButton: Component {
+        IconButton {
+            id: quizButton
+            objectName: "unitQuizButton"
+            icon.source: "icons/btn_quiz.svg"
+            Accessible.name: qsTr("Unit Quiz")
+            onClicked: page.open(quizMenu, { categoryId: controller.categoryId },
+                                 quizButton.mapToItem(page, Qt.point(width / 2, height / 2)))
+        }
+    }
+
+    Component {
+        id: phraseCards
+        PhraseCardPage {}
+    }
+    Component {
+        id: quizMenu
+        QuizOutlinePage {}
+    }
 
     // The sound belongs to this screen: it stops when another screen covers it or it goes.
     StackView.onDeactivating: controller.player.stopPlay()

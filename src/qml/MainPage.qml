@@ -40,6 +40,10 @@ BasePage {
         id: userInfoPage
         UserInfoPage {}
     }
+    Component {
+        id: quizMenu
+        QuizOutlinePage {}
+    }
 
     Component {
         id: toolButtons
@@ -71,6 +75,11 @@ BasePage {
         sequence: "Ctrl+,"
         enabled: page.StackView.status === StackView.Active
         onActivated: page.open(settingPage, {}, Qt.point(page.width, 0))
+    }
+    Shortcut {
+        sequence: "Ctrl+T"
+        enabled: page.StackView.status === StackView.Active
+        onActivated: page.open(quizMenu, {}, Qt.point(page.width / 2, 0))
     }
     Shortcut {
         sequence: "Ctrl+I"
@@ -136,6 +145,30 @@ BasePage {
                     font.bold: true
                     color: AppColors.experience
                     wrapMode: Text.NoWrap
+                }
+            }
+
+            Button {
+                id: quizzesButton
+                objectName: "quizzesButton"
+                x: page.margin
+                width: parent.width - 2 * page.margin
+                height: 48 * LayoutMetrics.scaleY
+                focusPolicy: Qt.NoFocus
+                text: qsTr("Quizzes")
+                font.pixelSize: 17 * page.textScale
+                font.bold: true
+                onClicked: page.open(quizMenu, {}, quizzesButton.mapToItem(page, Qt.point(pressX, pressY)))
+
+                contentItem: VoLabel {
+                    text: quizzesButton.text
+                    font: quizzesButton.font
+                    color: "white"
+                    horizontalAlignment: Text.AlignHCenter
+                }
+                background: Rectangle {
+                    radius: 8 * LayoutMetrics.scaleX
+                    color: Qt.rgba(108 / 255, 84 / 255, 205 / 255, quizzesButton.down ? 0.7 : 1)
                 }
             }
 

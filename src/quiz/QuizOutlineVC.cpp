@@ -13,15 +13,22 @@ struct QuizKind {
     const char *page;
     /// Only meaningful when the mother language is not the one learnt.
     bool translates;
+    /// For the translation quiz: whether the question is the German text.
+    bool foreign2Mother;
 };
 
-// The kinds in menu order. Tags 2 ("Listen And Write"), 4 ("Read Phrase"), 5 and 6 (the two
-// translation directions) join as their screens are built.
+// The kinds in menu order. Tag 4 ("Read Phrase") joins with the speaking quiz.
 constexpr std::array quizKinds{
     QuizKind{1, QT_TRANSLATE_NOOP("QuizOutlineVC", "Listen And Select"), "Listen2SelectPage.qml",
-             false},
+             false, false},
+    QuizKind{2, QT_TRANSLATE_NOOP("QuizOutlineVC", "Listen And Write"), "Listen2WritePage.qml",
+             false, false},
     QuizKind{3, QT_TRANSLATE_NOOP("QuizOutlineVC", "Reorder Words"), "WordOrderAdjustPage.qml",
-             false},
+             false, false},
+    QuizKind{5, QT_TRANSLATE_NOOP("QuizOutlineVC", "Foreign Language -> Mother Language"),
+             "Word2WordPage.qml", true, true},
+    QuizKind{6, QT_TRANSLATE_NOOP("QuizOutlineVC", "Mother Language -> Foreign Language"),
+             "Word2WordPage.qml", true, false},
 };
 
 bool offered(const QuizKind &kind)
@@ -75,17 +82,16 @@ QVariantMap QuizOutlineVC::quizClicked(int tag) const
     for (const QuizKind &kind : quizKinds) {
         if (kind.tag != tag || !offered(kind))
             continue;
-        return {
-            {QStringLiteral("page"), QLatin1String(kind.page)},
-            {QStringLiteral("properties"),
-             QVariantMap{
-                 {QStringLiteral("categoryId"), m_categoryId},
-                 {QStringLiteral("titleText"),
-                  QCoreApplication::translate("QuizOutlineVC", kind.title)},
-                 // Read when the button is pressed: the duration chosen last counts.
-                 {QStringLiteral("limitedTime"), Preferences::instance().testDuration()},
-             }},
+        QVariantMap properties{
+            {QStringLiteral("categoryId"), m_categoryId},
+            {QStringLiteral("titleText"), QCoreApplication::translate("QuizOutlineVC", kind.title)},
+            // Read when the button is pressed: the duration chosen last counts.
+            {QStringLiteral("limitedTime"), Preferences::instance().testDuration()},
         };
+        if (kind.translates)
+            properties.insert(QStringLiteral("foreign2Mother"), kind.foreign2Mother);
+        return {{QStringLiteral("page"), QLatin1String(kind.page)},
+                {QStringLiteral("properties"), properties}};
     }
     return {};
 }

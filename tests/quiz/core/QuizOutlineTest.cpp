@@ -32,9 +32,31 @@ TEST(QuizOutline, TitleFollowsTheCategoryAndButtonsShareTheHeight)
     EXPECT_EQ(changed.size(), 1);
     EXPECT_EQ(menu.titleText(), u"Unit Quiz"_s);
 
-    ASSERT_EQ(tags(menu), (QList<int>{1, 3}));
-    // Two buttons, a quarter-button gap and half a button above and below: 3.25 buttons.
-    EXPECT_DOUBLE_EQ(menu.buttonHeight(325.0), 100.0);
+    Preferences::instance().setLanguageType(u"en"_s);
+    ASSERT_EQ(tags(menu), (QList<int>{1, 2, 3, 5, 6}));
+    // Five buttons, four quarter-button gaps and half a button above and below: 7 buttons.
+    EXPECT_DOUBLE_EQ(menu.buttonHeight(700.0), 100.0);
+}
+
+TEST(QuizOutline, GermanAsMotherLanguageLeavesOutTheTranslationQuizzes)
+{
+    QuizOutlineVC menu;
+    QSignalSpy changed(&menu, &QuizOutlineVC::buttonsChanged);
+    Preferences::instance().setLanguageType(u"de"_s);
+    EXPECT_EQ(changed.size(), 1);
+    EXPECT_EQ(tags(menu), (QList<int>{1, 2, 3}));
+    EXPECT_DOUBLE_EQ(menu.buttonHeight(450.0), 100.0);
+    EXPECT_TRUE(menu.quizClicked(5).isEmpty());
+
+    Preferences::instance().setLanguageType(u"fr"_s);
+    const QVariantMap german = menu.quizClicked(5).value(u"properties"_s).toMap();
+    EXPECT_TRUE(german.value(u"foreign2Mother"_s).toBool());
+    const QVariantMap mother = menu.quizClicked(6).value(u"properties"_s).toMap();
+    ASSERT_TRUE(mother.contains(u"foreign2Mother"_s));
+    EXPECT_FALSE(mother.value(u"foreign2Mother"_s).toBool());
+    // Quizzes that do not translate have no direction to be given.
+    EXPECT_FALSE(menu.quizClicked(1).value(u"properties"_s).toMap().contains(u"foreign2Mother"_s));
+    Preferences::instance().setLanguageType(u"en"_s);
 }
 
 TEST(QuizOutline, AButtonOpensItsQuizWithTheCategoryAndTheCurrentDuration)
@@ -60,6 +82,12 @@ TEST(QuizOutlineUi, MainAndCategoryScreensOpenTheMenuAndItStartsAQuiz)
     ASSERT_TRUE(app.waitForDepth(2));
     EXPECT_EQ(app.currentPage()->findChild<QuizOutlineVC *>()->titleText(), u"Quizzes"_s);
     (void)app.screenshot(u"quiz-menu"_s);
+
+    app.tapCentre(findItem(app.currentPage(), u"quizButton5"_s));
+    ASSERT_TRUE(app.waitForDepth(3));
+    EXPECT_TRUE(app.currentPage()->property("foreign2Mother").toBool());
+    QMetaObject::invokeMethod(app.currentPage(), "back");
+    ASSERT_TRUE(app.waitForDepth(2));
 
     app.tapCentre(findItem(app.currentPage(), u"quizButton1"_s));
     ASSERT_TRUE(app.waitForDepth(3));

@@ -1,0 +1,4 @@
+# The translation-choice quiz, in both directions.
+target_sources(tolvane_core PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/Word2WordVC.cpp ${CMAKE_CURRENT_LIST_DIR}/Word2WordVC.h
+)

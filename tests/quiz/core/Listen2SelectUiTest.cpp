@@ -1,9 +1,9 @@
-#include "AppWindow.h"
 #include "app/UserRecord.h"
 #include "content/AppCommon.h"
 #include "content/UserInfoFile.h"
 #include "quiz/Listen2SelectVC.h"
 #include "quiz/QuizAnswer.h"
+#include "quiz/QuizUiTest.h"
 #include "stubs/AudioPlayerStub.h"
 
 #include <QQmlContext>
@@ -17,44 +17,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Listen2SelectUiTest : public ::testing::Test {
+class Listen2SelectUiTest : public QuizUiTest {
 protected:
-    AudioPlayerStubFactory players;
-    AppWindow app;
-
-    // As the quiz menu does it.
     Listen2SelectVC *openQuiz(const QString &categoryId)
     {
-        QQmlExpression push(
-            qmlContext(app.stack()), app.stack(),
-            u"push(\"Listen2SelectPage.qml\", {categoryId: \"%1\"})"_s.arg(categoryId));
-        push.evaluate();
-        EXPECT_FALSE(push.hasError()) << qPrintable(push.error().toString());
-        EXPECT_TRUE(app.waitForDepth(2));
-        return app.currentPage()->findChild<Listen2SelectVC *>();
-    }
-
-    [[nodiscard]] QQuickItem *item(const QString &objectName) const
-    {
-        QQuickItem *found = findItem(app.currentPage(), objectName);
-        if (!found)
-            ADD_FAILURE() << "no item " << qPrintable(objectName);
-        return found;
-    }
-
-    [[nodiscard]] QString text(const QString &objectName) const
-    {
-        return item(objectName)->property("text").toString();
-    }
-
-    static int rightOption(const Listen2SelectVC &quiz)
-    {
-        const PhraseInfo &asked = *quiz.phraseInfos().at(quiz.currIndex());
-        for (int i = 0; i < quiz.currOptions().size(); ++i) {
-            if (isRightAnswer(asked, *quiz.currOptions().at(i)))
-                return i;
-        }
-        return -1;
+        return pushQuiz<Listen2SelectVC>(u"Listen2SelectPage.qml"_s,
+                                         u"categoryId: \"%1\""_s.arg(categoryId));
     }
 };
 

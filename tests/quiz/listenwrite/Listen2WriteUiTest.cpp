@@ -1,8 +1,8 @@
-#include "AppWindow.h"
 #include "app/UserRecord.h"
 #include "content/AppCommon.h"
 #include "content/UserInfoFile.h"
 #include "quiz/Listen2WriteVC.h"
+#include "quiz/QuizUiTest.h"
 #include "stubs/AudioPlayerStub.h"
 
 #include <QQmlContext>
@@ -16,34 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Listen2WriteUiTest : public ::testing::Test {
+class Listen2WriteUiTest : public QuizUiTest {
 protected:
-    AudioPlayerStubFactory players;
-    AppWindow app;
-
-    // As the quiz menu does it.
     Listen2WriteVC *openQuiz(const QString &categoryId)
     {
-        QQmlExpression push(
-            qmlContext(app.stack()), app.stack(),
-            u"push(\"Listen2WritePage.qml\", {categoryId: \"%1\"})"_s.arg(categoryId));
-        push.evaluate();
-        EXPECT_FALSE(push.hasError()) << qPrintable(push.error().toString());
-        EXPECT_TRUE(app.waitForDepth(2));
-        return app.currentPage()->findChild<Listen2WriteVC *>();
-    }
-
-    [[nodiscard]] QQuickItem *item(const QString &objectName) const
-    {
-        QQuickItem *found = findItem(app.currentPage(), objectName);
-        if (!found)
-            ADD_FAILURE() << "no item " << qPrintable(objectName);
-        return found;
-    }
-
-    [[nodiscard]] QString text(const QString &objectName) const
-    {
-        return item(objectName)->property("text").toString();
+        return pushQuiz<Listen2WriteVC>(u"Listen2WritePage.qml"_s,
+                                        u"categoryId: \"%1\""_s.arg(categoryId));
     }
 
     // Key by key, as a keyboard that can write any letter would.

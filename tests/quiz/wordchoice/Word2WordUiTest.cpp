@@ -1,8 +1,8 @@
-#include "AppWindow.h"
 #include "app/UserRecord.h"
 #include "content/AppCommon.h"
 #include "content/UserInfoFile.h"
 #include "quiz/QuizAnswer.h"
+#include "quiz/QuizUiTest.h"
 #include "quiz/Word2WordVC.h"
 #include "stubs/AudioPlayerStub.h"
 
@@ -17,45 +17,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Word2WordUiTest : public ::testing::Test {
+class Word2WordUiTest : public QuizUiTest {
 protected:
-    AudioPlayerStubFactory players;
-    AppWindow app;
-
-    // As the quiz menu does it.
     Word2WordVC *openQuiz(const QString &categoryId, bool foreign2Mother)
     {
-        QQmlExpression push(
-            qmlContext(app.stack()), app.stack(),
-            u"push(\"Word2WordPage.qml\", {categoryId: \"%1\", foreign2Mother: %2})"_s.arg(
-                categoryId, foreign2Mother ? u"true"_s : u"false"_s));
-        push.evaluate();
-        EXPECT_FALSE(push.hasError()) << qPrintable(push.error().toString());
-        EXPECT_TRUE(app.waitForDepth(2));
-        return app.currentPage()->findChild<Word2WordVC *>();
-    }
-
-    [[nodiscard]] QQuickItem *item(const QString &objectName) const
-    {
-        QQuickItem *found = findItem(app.currentPage(), objectName);
-        if (!found)
-            ADD_FAILURE() << "no item " << qPrintable(objectName);
-        return found;
-    }
-
-    [[nodiscard]] QString text(const QString &objectName) const
-    {
-        return item(objectName)->property("text").toString();
-    }
-
-    static int rightOption(const Word2WordVC &quiz)
-    {
-        const PhraseInfo &asked = *quiz.phraseInfos().at(quiz.currIndex());
-        for (int i = 0; i < quiz.currOptions().size(); ++i) {
-            if (isRightAnswer(asked, *quiz.currOptions().at(i)))
-                return i;
-        }
-        return -1;
+        return pushQuiz<Word2WordVC>(u"Word2WordPage.qml"_s,
+                                     u"categoryId: \"%1\", foreign2Mother: %2"_s.arg(
+                                         categoryId, foreign2Mother ? u"true"_s : u"false"_s));
     }
 
     /// Plays a session of category "1" to its end: seven right answers by tapping, one wrong by

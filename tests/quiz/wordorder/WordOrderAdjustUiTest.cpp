@@ -1,6 +1,6 @@
-#include "AppWindow.h"
 #include "app/UserRecord.h"
 #include "content/UserInfoFile.h"
+#include "quiz/QuizUiTest.h"
 #include "quiz/wordorder/WordOrderAdjustVC.h"
 #include "stubs/AudioPlayerStub.h"
 
@@ -16,34 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class WordOrderAdjustUiTest : public ::testing::Test {
+class WordOrderAdjustUiTest : public QuizUiTest {
 protected:
-    AudioPlayerStubFactory players;
-    AppWindow app;
-
-    // As the quiz menu does it.
     WordOrderAdjustVC *openQuiz(const QString &categoryId)
     {
-        QQmlExpression push(
-            qmlContext(app.stack()), app.stack(),
-            u"push(\"WordOrderAdjustPage.qml\", {categoryId: \"%1\"})"_s.arg(categoryId));
-        push.evaluate();
-        EXPECT_FALSE(push.hasError()) << qPrintable(push.error().toString());
-        EXPECT_TRUE(app.waitForDepth(2));
-        return app.currentPage()->findChild<WordOrderAdjustVC *>();
-    }
-
-    [[nodiscard]] QQuickItem *item(const QString &objectName) const
-    {
-        QQuickItem *found = findItem(app.currentPage(), objectName);
-        if (!found)
-            ADD_FAILURE() << "no item " << qPrintable(objectName);
-        return found;
-    }
-
-    [[nodiscard]] QString text(const QString &objectName) const
-    {
-        return item(objectName)->property("text").toString();
+        return pushQuiz<WordOrderAdjustVC>(u"WordOrderAdjustPage.qml"_s,
+                                           u"categoryId: \"%1\""_s.arg(categoryId));
     }
 
     [[nodiscard]] static QRectF sceneRect(const QQuickItem *label)

@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "app/AppPaths.h"
 #include "content/AppCommon.h"
 
 #include <QCommandLineParser>
@@ -22,9 +23,16 @@ int main(int argc, char *argv[])
                                        QStringLiteral("Course folder (resources.bundle) to use."),
                                        QStringLiteral("DIR"));
     parser.addOption(resources);
+    const QCommandLineOption acousticModel(
+        QStringLiteral("acoustic-model"),
+        QStringLiteral("Speech model folder (AcousticModelEnglish.bundle) to use."),
+        QStringLiteral("DIR"));
+    parser.addOption(acousticModel);
     parser.process(app);
     if (parser.isSet(resources))
         setResourceRoot(parser.value(resources));
+    if (parser.isSet(acousticModel))
+        AppPaths::setAcousticModelFolder(parser.value(acousticModel));
 
     AppDelegate delegate;
     delegate.didFinishLaunching();

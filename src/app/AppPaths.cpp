@@ -3,7 +3,16 @@
 #include "content/UserInfoFile.h"
 #include "content/VoFileUtil.h"
 
+#include <QCoreApplication>
 #include <QDir>
+
+namespace {
+QString &chosenAcousticModelFolder()
+{
+    static QString folder;
+    return folder;
+}
+} // namespace
 
 namespace AppPaths {
 
@@ -22,6 +31,23 @@ QString recordFolder()
 QString userInfoPath()
 {
     return UserInfoFile().path();
+}
+
+QString languageModelFolder()
+{
+    return documentsFolder() + QStringLiteral("lm");
+}
+
+QString acousticModelFolder()
+{
+    if (!chosenAcousticModelFolder().isEmpty())
+        return chosenAcousticModelFolder();
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/AcousticModelEnglish.bundle");
+}
+
+void setAcousticModelFolder(const QString &folder)
+{
+    chosenAcousticModelFolder() = folder;
 }
 
 } // namespace AppPaths

@@ -1,6 +1,7 @@
 #include "AppWindow.h"
 
 #include "app/AppDelegate.h"
+#include "app/AppPaths.h"
 #include "app/Preferences.h"
 #include "content/AppCommon.h"
 #include "support/TestPaths.h"
@@ -21,6 +22,7 @@ void startOnce()
 {
     static const bool started = [] {
         setResourceRoot(TestPaths::course());
+        AppPaths::setAcousticModelFolder(TestPaths::acousticModel());
         Preferences::instance().setLanguageType(u"en"_s);
         QQuickStyle::setStyle(u"Basic"_s);
         return AppDelegate().didFinishLaunching();

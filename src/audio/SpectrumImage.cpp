@@ -43,3 +43,20 @@ QImage spectrumImage(const AudioPowerSpectrumInfo &spectrum)
                 greyOf(spectrum.at(static_cast<uint64_t>(column), bin), scale);
     return image;
 }
+
+QImage genereateRGBAData(const AudioPowerSpectrumInfo &spectrum, float playProgress)
+{
+    const QImage grey = spectrumImage(spectrum);
+    if (grey.isNull())
+        return {};
+    // Straight (not premultiplied) alpha: the grey stays as it is and only its cover halves.
+    QImage image = grey.convertToFormat(QImage::Format_RGBA8888);
+    const double played = static_cast<double>(image.width()) * static_cast<double>(playProgress);
+    for (int row = 0; row < image.height(); ++row) {
+        uchar *pixel = image.scanLine(row);
+        for (int column = 0; column < image.width() && column < played; ++column)
+            pixel[column * 4 + 3] =
+                static_cast<uchar>(std::clamp(pixel[column * 4 + 3] / 2, 0, 255));
+    }
+    return image;
+}

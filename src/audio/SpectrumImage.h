@@ -14,3 +14,10 @@
  * wraps and shows light. A null image, and a logged error, when there is no frame to draw.
  */
 [[nodiscard]] QImage spectrumImage(const AudioPowerSpectrumInfo &spectrum);
+
+/**
+ * The picture a spectrum view shows: the grey spectrum in RGBA with the part already played
+ * (the columns left of width x playProgress) at half alpha, so that the view's background shows
+ * through it and the boundary reads as the play position. Null, as above, without data.
+ */
+[[nodiscard]] QImage genereateRGBAData(const AudioPowerSpectrumInfo &spectrum, float playProgress);

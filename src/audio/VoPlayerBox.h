@@ -143,6 +143,9 @@ public:
     Q_INVOKABLE void switchPlayModel();
     /// Brings the controls' images and enabled flags in step with the state; hides the badge.
     Q_INVOKABLE void resetBtnImage();
+    /// Shows the box as finished, controls included, without touching the player: for a host
+    /// that has taken its view back to the start.
+    Q_INVOKABLE void showFinished();
     /// One beat of the progress timer (every timerInterval seconds while it runs).
     Q_INVOKABLE void tick();
 

@@ -66,6 +66,12 @@ void VoPlayerBox::switchPlayModel()
     logProgress(QStringLiteral("play model: %1").arg(m_playModel));
 }
 
+void VoPlayerBox::showFinished()
+{
+    setPlayStatus(Finished);
+    resetBtnImage();
+}
+
 void VoPlayerBox::resetBtnImage()
 {
     setSpeedRemind(false);

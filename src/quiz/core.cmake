@@ -6,4 +6,6 @@ target_sources(tolvane_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/QuizLog.cpp ${CMAKE_CURRENT_LIST_DIR}/QuizLog.h
   ${CMAKE_CURRENT_LIST_DIR}/QuizOutlineVC.cpp ${CMAKE_CURRENT_LIST_DIR}/QuizOutlineVC.h
   ${CMAKE_CURRENT_LIST_DIR}/QuizResultModel.cpp ${CMAKE_CURRENT_LIST_DIR}/QuizResultModel.h
+  # The score's colours and text, which the comparison pop-up's mark shares.
+  ${CMAKE_CURRENT_LIST_DIR}/../app/ScoreText.cpp ${CMAKE_CURRENT_LIST_DIR}/../app/ScoreText.h
 )

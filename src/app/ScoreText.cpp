@@ -1,0 +1,25 @@
+#include "ScoreText.h"
+
+namespace ScoreText {
+
+QColor color(int points, int outOf)
+{
+    // Whole-number comparisons: 8 of 10 is exactly four fifths, and must stay green.
+    if (outOf > 0 && points * 5 >= outOf * 4)
+        return QColor::fromRgb(46, 139, 87);
+    if (outOf > 0 && points * 2 >= outOf)
+        return QColor::fromRgb(199, 97, 20);
+    return QColor::fromRgb(176, 23, 31);
+}
+
+QString styled(const QString &label, int points, int outOf, bool boldPoints)
+{
+    const QString digits =
+        boldPoints ? QStringLiteral("<b>%1</b>").arg(points) : QString::number(points);
+    return (label + QStringLiteral(": ")).toHtmlEscaped() +
+           QStringLiteral("<font color=\"%1\">%2</font>/%3")
+               .arg(color(points, outOf).name(), digits)
+               .arg(outOf);
+}
+
+} // namespace ScoreText

@@ -1,0 +1,105 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Tolvane
+
+// The model speaker's recording of a phrase above the learner's, each as a spectrum with its
+// own player bar, then the learner's score, the phrase's translation and, when the comparison
+// could not be made, why. The opener fills the comparison, sets the size and opens the pop-up;
+// closing it, by the button or Escape, stops both players.
+VoPopView {
+    id: popUp
+
+    property SpectrumCompView comparison
+    readonly property real gap: 8
+
+    parent: Overlay.overlay
+    x: parent ? (parent.width - width) / 2 : 0
+    y: parent ? (parent.height - height) / 2 : 0
+    width: parent ? 0.9 * parent.width : 0
+    height: parent ? 0.8 * parent.height : 0
+
+    onClosed: if (comparison)
+                  comparison.closeAction()
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: popUp.gap
+        spacing: 4
+
+        Label {
+            objectName: "originalVoiceLbl"
+            text: qsTr("Original Voice")
+            font.bold: true
+            color: AppColors.text
+        }
+
+        VoSpectrumPanelView {
+            objectName: "standardSpectrumPanel"
+            Layout.fillWidth: true
+            // Shrinks on a short screen; never grows past its own strip and bar.
+            Layout.fillHeight: true
+            Layout.preferredHeight: implicitHeight
+            Layout.maximumHeight: implicitHeight
+            panel: popUp.comparison ? popUp.comparison.standardSpectrumPanel : null
+        }
+
+        Label {
+            objectName: "myVoiceLbl"
+            text: qsTr("My Voice")
+            font.bold: true
+            color: AppColors.text
+        }
+
+        VoSpectrumPanelView {
+            objectName: "estimatedSpectrumPanel"
+            Layout.fillWidth: true
+            // Shrinks on a short screen; never grows past its own strip and bar.
+            Layout.fillHeight: true
+            Layout.preferredHeight: implicitHeight
+            Layout.maximumHeight: implicitHeight
+            panel: popUp.comparison ? popUp.comparison.estimatedSpectrumPanel : null
+        }
+
+        VoLabel {
+            objectName: "testedWordScoreLbl"
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignHCenter
+            textFormat: Text.RichText
+            font.pixelSize: 18
+            color: AppColors.text
+            visible: !!popUp.comparison && popUp.comparison.testedWordScoreVisible
+                     && popUp.comparison.scored
+            text: popUp.comparison ? popUp.comparison.scoreStyledText : ""
+        }
+
+        VoLabel {
+            objectName: "translateLbl"
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignHCenter
+            font.pixelSize: 16
+            color: AppColors.secondaryText
+            text: popUp.comparison ? popUp.comparison.translateText : ""
+        }
+
+        VoLabel {
+            objectName: "errorLbl"
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignHCenter
+            color: AppColors.experience
+            visible: text !== ""
+            text: popUp.comparison ? popUp.comparison.errorText : ""
+        }
+
+        Item {
+            Layout.fillHeight: true
+        }
+    }
+
+    BusyIndicator {
+        objectName: "comparisonBusy"
+        anchors.centerIn: parent
+        running: !!popUp.comparison && popUp.comparison.busy
+        visible: running
+    }
+}

@@ -8,6 +8,7 @@
 #include "content/VoLog.h"
 
 #include <QFileInfo>
+#include <utility>
 
 namespace {
 
@@ -99,7 +100,38 @@ void PhraseCardVC::toggleLook()
     Q_EMIT phraseHiddenChanged();
 }
 
+bool PhraseCardVC::beginRecord()
+{
+    if (!m_phraseInfo || m_recordPressed)
+        return true;
+    stopAudio();
+    if (m_permission.check())
+        return false;
+    m_myVoicePath = m_audioRecorder.begin(*m_phraseInfo);
+    m_recordPressed = !m_myVoicePath.isEmpty();
+    return true;
+}
+
+void PhraseCardVC::endRecord()
+{
+    if (!std::exchange(m_recordPressed, false))
+        return;
+    const std::shared_ptr<SpectrumCompView> comparison = m_audioRecorder.end();
+    if (!comparison)
+        return;
+    comparison->setTestedWordScoreVisible(false);
+    incrementUserInfoCounter(UserInfoKey::readCount);
+    Q_EMIT comparisonShown();
+}
+
 void PhraseCardVC::stopPlaying()
+{
+    stopAudio();
+    m_recordPressed = false;
+    m_audioRecorder.stop();
+}
+
+void PhraseCardVC::stopAudio()
 {
     if (m_audioPlayer)
         m_audioPlayer->stop();

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "audio/MicrophonePermission.h"
+#include "speaking/PhraseRecording.h"
+
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -15,7 +18,9 @@ class PhraseInfo;
  * steps to the previous and the next phrase, and a toggle that hides the German text.
  *
  * Every time a phrase's recording is played, shown or replayed, the learner's listening counter
- * grows at once, so leaving the screen loses nothing. Button pictures are exposed by name
+ * grows at once, and every reading recorded grows the reading counter, so leaving the screen
+ * loses nothing. A reading is compared with the phrase's model without a mark: the cards are
+ * for practice. Button pictures are exposed by name
  * ("btn-last", "btn-last2", ...); the "2" forms are the greyed ones of a disabled button.
  */
 class PhraseCardVC : public QObject {
@@ -35,6 +40,9 @@ class PhraseCardVC : public QObject {
     Q_PROPERTY(bool lastItemEnabled READ lastItemEnabled NOTIFY buttonsChanged)
     Q_PROPERTY(QString nextItemImage READ nextItemImage NOTIFY buttonsChanged)
     Q_PROPERTY(bool nextItemEnabled READ nextItemEnabled NOTIFY buttonsChanged)
+    /// The learner's reading of the phrase and its comparison.
+    Q_PROPERTY(PhraseRecording *recording READ recording CONSTANT)
+    Q_PROPERTY(MicrophonePermission *permission READ permission CONSTANT)
 
 public:
     explicit PhraseCardVC(QObject *parent = nullptr);
@@ -51,7 +59,13 @@ public:
     /// Steps on one phrase; on the last phrase only the buttons change.
     Q_INVOKABLE void nextItem();
     Q_INVOKABLE void toggleLook();
-    /// For leaving the screen: silences the recording.
+    /// The record button is pressed: silences the phrase, checks the microphone and records.
+    /// Returns false when access is denied and the alert is due; nothing is recorded then.
+    Q_INVOKABLE bool beginRecord();
+    /// The record button is released: stops recording, shows the comparison and counts a
+    /// reading.
+    Q_INVOKABLE void endRecord();
+    /// For leaving the screen: silences the recording and stops the recorder.
     Q_INVOKABLE void stopPlaying();
 
     /// The category's name in the learner's language.
@@ -73,6 +87,9 @@ public:
     [[nodiscard]] bool lastItemEnabled() const { return m_lastItemBtn.enabled; }
     [[nodiscard]] QString nextItemImage() const { return m_nextItemBtn.image; }
     [[nodiscard]] bool nextItemEnabled() const { return m_nextItemBtn.enabled; }
+    [[nodiscard]] PhraseRecording *recording() { return &m_audioRecorder; }
+    [[nodiscard]] MicrophonePermission *permission() { return &m_permission; }
+    [[nodiscard]] const QString &myVoicePath() const { return m_myVoicePath; }
 
 Q_SIGNALS:
     void titleChanged();
@@ -80,6 +97,8 @@ Q_SIGNALS:
     void translationChanged();
     void phraseHiddenChanged();
     void buttonsChanged();
+    /// A reading's comparison is to be shown in the pop-up (recording.comparison).
+    void comparisonShown();
 
 private:
     struct ItemButton {
@@ -88,6 +107,7 @@ private:
     };
 
     void showPhrase(PhraseInfo *phrase);
+    void stopAudio();
     void setLastItemEnabled(bool enabled);
     void setNextItemEnabled(bool enabled);
     /// The disabled form of a picture is its greyed "2" form.
@@ -100,4 +120,9 @@ private:
     bool m_phraseHidden{false};
     ItemButton m_lastItemBtn{QStringLiteral("btn-last2")};
     ItemButton m_nextItemBtn{QStringLiteral("btn-next2")};
+    PhraseRecording m_audioRecorder;
+    MicrophonePermission m_permission;
+    QString m_myVoicePath;
+    /// Between a press of the record button that started a recording and its release.
+    bool m_recordPressed{false};
 };

@@ -4,7 +4,8 @@ import Tolvane
 
 // The phrase cards: one phrase of a category at a time, its picture above the German text and
 // its meaning, and below the card the buttons to step back, hide the German text, play the
-// recording, write the phrase and step on. On the desktop the arrow keys step and Space plays.
+// recording, write the phrase, read it aloud and step on. On the desktop the arrow keys step,
+// Space plays, and R is held like the record button (Space being taken).
 BasePage {
     id: page
 
@@ -12,15 +13,40 @@ BasePage {
     property string categoryId
     property int phraseIndex
 
-    readonly property real buttonSize: 48 * textScale
+    // Six buttons and their gaps fit the narrowest window.
+    readonly property real buttonSize: Math.min(48 * textScale, (width - 7 * 10 * LayoutMetrics.scaleX) / 6)
 
     title: controller.title
 
     Component.onCompleted: controller.open(categoryId, phraseIndex)
-    StackView.onDeactivating: controller.stopPlaying()
+    StackView.onDeactivating: {
+        comparisonPopup.close()
+        controller.stopPlaying()
+    }
 
     PhraseCardVC {
         id: controller
+
+        onComparisonShown: comparisonPopup.open()
+    }
+
+    MicrophoneAlert {
+        id: microphoneAlert
+        objectName: "microphoneAlert"
+        permission: controller.permission
+        onClosed: keys.forceActiveFocus()
+    }
+
+    SpectrumCompViewPopup {
+        id: comparisonPopup
+        objectName: "comparisonPopup"
+        comparison: controller.recording.comparison
+        parent: Overlay.overlay
+        x: (parent.width - width) / 2
+        y: (parent.height - height) / 2
+        width: 0.9 * parent.width
+        height: 0.8 * parent.height
+        onClosed: keys.forceActiveFocus()
     }
 
     PhraseWritePopView {
@@ -36,7 +62,9 @@ BasePage {
         focus: true
 
         Keys.onPressed: event => {
-            if (event.modifiers !== Qt.NoModifier) {
+            if (recordButton.handleKey(event, true)) {
+                // held like the button
+            } else if (event.modifiers !== Qt.NoModifier) {
                 event.accepted = false
             } else if (event.key === Qt.Key_Left && controller.lastItemEnabled) {
                 controller.lastItem()
@@ -48,6 +76,7 @@ BasePage {
                 event.accepted = false
             }
         }
+        Keys.onReleased: event => event.accepted = recordButton.handleKey(event, false)
     }
 
     PhraseCardView {
@@ -55,9 +84,20 @@ BasePage {
         x: page.margin
         y: page.margin
         width: parent.width - 2 * page.margin
-        height: controls.y - 2 * page.margin
+        height: controls.y - 2 * page.margin - (levelMeter.visible ? levelMeter.height + page.margin : 0)
         phraseCard: controller
         textScale: page.textScale
+    }
+
+    VoLevelMeter {
+        id: levelMeter
+        objectName: "levelMeter"
+        visible: controller.recording.recording
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: controls.y - height - page.margin
+        width: 0.6 * parent.width
+        height: 8 * LayoutMetrics.scaleY
+        level: controller.recording.level
     }
 
     Row {
@@ -101,6 +141,16 @@ BasePage {
             enabled: controller.hasPhrase
             Accessible.name: qsTr("Write the phrase")
             onClicked: writing.open()
+        }
+        RecordButton {
+            id: recordButton
+            objectName: "recordButton"
+            width: page.buttonSize
+            height: page.buttonSize
+            holdKey: Qt.Key_R
+            enabled: controller.hasPhrase
+            onHoldStarted: if (!controller.beginRecord()) microphoneAlert.open()
+            onHoldEnded: controller.endRecord()
         }
         IconButton {
             objectName: "nextItemButton"

@@ -10,6 +10,8 @@ Rectangle {
     // The session shown (a BaseQuizViewController).
     property var quiz
     property real textScale: 1
+    // A quiz that marks each answer on its own shows progress only.
+    property bool scoreVisible: true
 
     readonly property real lineHeight: 24 * textScale
 
@@ -38,6 +40,8 @@ Rectangle {
         }
         Label {
             objectName: "scoreLbl"
+            // Hidden, not left out, so that the grid keeps its places.
+            opacity: panel.scoreVisible ? 1 : 0
             width: grid.width / 2
             height: panel.lineHeight
             verticalAlignment: Text.AlignVCenter

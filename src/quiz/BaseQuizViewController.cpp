@@ -3,6 +3,7 @@
 #include "QuizAnswer.h"
 #include "QuizLog.h"
 #include "app/Preferences.h"
+#include "app/ScoreText.h"
 #include "app/UserRecord.h"
 #include "audio/PlaySound.h"
 #include "content/AppCommon.h"
@@ -174,8 +175,8 @@ void BaseQuizViewController::checkCurrentAnswer()
 {
     if (m_finished || !hasQuestions())
         return;
-    if (isRightAnswer(*m_phraseInfos.at(m_currIndex), *m_inputPhraseInfos.at(m_currIndex)))
-        m_score += pointsPerAnswer;
+    // Taken before the next question is shown, which may reset the kind's mark.
+    m_score += answerPoints();
     if (m_currIndex < questionCount() - 1) {
         ++m_currIndex;
         Q_EMIT currIndexChanged();
@@ -186,6 +187,13 @@ void BaseQuizViewController::checkCurrentAnswer()
     ++m_progress;
     updateProgressText(m_progress);
     updateScoreText(m_score);
+}
+
+int BaseQuizViewController::answerPoints() const
+{
+    return isRightAnswer(*m_phraseInfos.at(m_currIndex), *m_inputPhraseInfos.at(m_currIndex))
+               ? pointsPerAnswer
+               : 0;
 }
 
 void BaseQuizViewController::setTypedAnswer(const QString &text)
@@ -231,22 +239,12 @@ QString BaseQuizViewController::scoreText() const
 
 QString BaseQuizViewController::scoreStyledText() const
 {
-    return (tr("Score") + QStringLiteral(": ")).toHtmlEscaped() +
-           QStringLiteral("<font color=\"%1\">%2</font>/%3")
-               .arg(scoreColor().name())
-               .arg(m_score)
-               .arg(pointsPerAnswer * questionCount());
+    return ScoreText::styled(tr("Score"), m_score, pointsPerAnswer * questionCount(), false);
 }
 
 QColor BaseQuizViewController::scoreColor() const
 {
-    const int full = pointsPerAnswer * questionCount();
-    const double ratio = full > 0 ? static_cast<double>(m_score) / full : 0.0;
-    if (ratio >= 0.8)
-        return QColor::fromRgb(46, 139, 87);
-    if (ratio >= 0.5)
-        return QColor::fromRgb(199, 97, 20);
-    return QColor::fromRgb(176, 23, 31);
+    return ScoreText::color(m_score, pointsPerAnswer * questionCount());
 }
 
 void BaseQuizViewController::tick()

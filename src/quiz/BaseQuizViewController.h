@@ -107,7 +107,7 @@ public:
     Q_INVOKABLE void setResultTableHeight(qreal height);
     /// For leaving the screen: no countdown, no sound. Nothing is recorded for an unfinished
     /// session.
-    Q_INVOKABLE void viewWillDisappear();
+    Q_INVOKABLE virtual void viewWillDisappear();
 
     [[nodiscard]] CategoryInfo *categoryInfo() const { return m_categoryInfo; }
     [[nodiscard]] int itemsCount() const { return m_itemsCount; }
@@ -176,9 +176,11 @@ protected:
     /// Draws the four options of a question from the question source; the phrase itself takes a
     /// random slot unless a phrase of equal content was drawn.
     void fillOptions(PhraseInfo &phrase, bool isMotherLang);
-    /// Scores the current answer (10 points when right), then shows the next question or ends
-    /// the session.
+    /// Scores the current answer (answerPoints), then shows the next question or ends the
+    /// session.
     void checkCurrentAnswer();
+    /// What the current answer earns: 10 when right, else 0, unless a kind marks otherwise.
+    [[nodiscard]] virtual int answerPoints() const;
     /// A typed answer to the current question, kept as its answer's foreign text as typed.
     void setTypedAnswer(const QString &text);
     void setCurrText(const QString &text);

@@ -17,7 +17,7 @@ struct QuizKind {
     bool foreign2Mother;
 };
 
-// The kinds in menu order. Tag 4 ("Read Phrase") joins with the speaking quiz.
+// The kinds in menu order.
 constexpr std::array quizKinds{
     QuizKind{1, QT_TRANSLATE_NOOP("QuizOutlineVC", "Listen And Select"), "Listen2SelectPage.qml",
              false, false},
@@ -25,6 +25,8 @@ constexpr std::array quizKinds{
              false, false},
     QuizKind{3, QT_TRANSLATE_NOOP("QuizOutlineVC", "Reorder Words"), "WordOrderAdjustPage.qml",
              false, false},
+    QuizKind{4, QT_TRANSLATE_NOOP("QuizOutlineVC", "Read Phrase"), "Phrase2SpeakPage.qml", false,
+             false},
     QuizKind{5, QT_TRANSLATE_NOOP("QuizOutlineVC", "Foreign Language -> Mother Language"),
              "Word2WordPage.qml", true, true},
     QuizKind{6, QT_TRANSLATE_NOOP("QuizOutlineVC", "Mother Language -> Foreign Language"),

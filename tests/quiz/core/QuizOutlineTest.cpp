@@ -33,9 +33,9 @@ TEST(QuizOutline, TitleFollowsTheCategoryAndButtonsShareTheHeight)
     EXPECT_EQ(menu.titleText(), u"Unit Quiz"_s);
 
     Preferences::instance().setLanguageType(u"en"_s);
-    ASSERT_EQ(tags(menu), (QList<int>{1, 2, 3, 5, 6}));
-    // Five buttons, four quarter-button gaps and half a button above and below: 7 buttons.
-    EXPECT_DOUBLE_EQ(menu.buttonHeight(700.0), 100.0);
+    ASSERT_EQ(tags(menu), (QList<int>{1, 2, 3, 4, 5, 6}));
+    // Six buttons, five quarter-button gaps and half a button above and below: 8.25 buttons.
+    EXPECT_DOUBLE_EQ(menu.buttonHeight(825.0), 100.0);
 }
 
 TEST(QuizOutline, GermanAsMotherLanguageLeavesOutTheTranslationQuizzes)
@@ -44,8 +44,9 @@ TEST(QuizOutline, GermanAsMotherLanguageLeavesOutTheTranslationQuizzes)
     QSignalSpy changed(&menu, &QuizOutlineVC::buttonsChanged);
     Preferences::instance().setLanguageType(u"de"_s);
     EXPECT_EQ(changed.size(), 1);
-    EXPECT_EQ(tags(menu), (QList<int>{1, 2, 3}));
-    EXPECT_DOUBLE_EQ(menu.buttonHeight(450.0), 100.0);
+    EXPECT_EQ(tags(menu), (QList<int>{1, 2, 3, 4}));
+    EXPECT_DOUBLE_EQ(menu.buttonHeight(575.0), 100.0);
+    EXPECT_EQ(menu.quizClicked(4).value(u"page"_s).toString(), u"Phrase2SpeakPage.qml"_s);
     EXPECT_TRUE(menu.quizClicked(5).isEmpty());
 
     Preferences::instance().setLanguageType(u"fr"_s);
@@ -71,7 +72,7 @@ TEST(QuizOutline, AButtonOpensItsQuizWithTheCategoryAndTheCurrentDuration)
     EXPECT_EQ(properties.value(u"titleText"_s).toString(), u"Reorder Words"_s);
     EXPECT_FLOAT_EQ(properties.value(u"limitedTime"_s).toFloat(), 45.0F);
 
-    for (int tag : {0, 4, 7, -1})
+    for (int tag : {0, 7, -1})
         EXPECT_TRUE(menu.quizClicked(tag).isEmpty()) << tag;
 }
 

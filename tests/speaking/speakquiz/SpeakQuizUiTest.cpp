@@ -1,0 +1,131 @@
+#include "SpeakingInput.h"
+#include "content/AppCommon.h"
+#include "quiz/QuizUiTest.h"
+#include "speaking/Phrase2SpeakVC.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SpeakQuizUiTest : public QuizUiTest {
+protected:
+    /// From the main screen through the quiz menu, as the learner goes.
+    Phrase2SpeakVC *openFromMenu()
+    {
+        app.tapCentre(findItem(app.currentPage(), u"quizzesButton"_s));
+        EXPECT_TRUE(app.waitForDepth(2));
+        app.tapCentre(findItem(app.currentPage(), u"quizButton4"_s));
+        EXPECT_TRUE(app.waitForDepth(3));
+        return app.currentPage()->findChild<Phrase2SpeakVC *>();
+    }
+
+    [[nodiscard]] QObject *popup() const
+    {
+        return app.currentPage()->findChild<QObject *>(u"comparisonPopup"_s);
+    }
+
+    [[nodiscard]] QPoint microphone() const
+    {
+        QQuickItem *button = item(u"microphoneButton"_s);
+        return button->mapToScene(QPointF(button->width() / 2, button->height() / 2)).toPoint();
+    }
+
+    /// A key as the window gets it, auto-repeated or not.
+    void key(QEvent::Type type, bool autoRepeat) const
+    {
+        QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier, u" "_s, autoRepeat);
+        QCoreApplication::sendEvent(app.window(), &event);
+    }
+
+    /// Waits for the comparison the release has just made.
+    static bool waitCompared(SpectrumCompView *comparison)
+    {
+        return comparison && QTest::qWaitFor([&] { return comparison->scored(); }, 120000);
+    }
+
+    void closePopup() const
+    {
+        QMetaObject::invokeMethod(popup(), "close");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !popup()->property("visible").toBool(); }));
+    }
+
+    SpeakingInput input;
+};
+
+} // namespace
+
+TEST_F(SpeakQuizUiTest, ReadsPhrasesAloudByMouseAndSpaceBarToTheResults)
+{
+    Phrase2SpeakVC *quiz = openFromMenu();
+    ASSERT_NE(quiz, nullptr);
+    EXPECT_EQ(text(u"toolBarTitle"_s), u"Read Phrase"_s);
+    EXPECT_EQ(text(u"questionLbl"_s), foreignText(*quiz->phraseInfos().at(0)));
+    EXPECT_EQ(text(u"tipLbl"_s), u"Tap and hold to speak."_s);
+    EXPECT_EQ(item(u"scoreLbl"_s)->opacity(), 0.0) << "this quiz shows progress only";
+    EXPECT_FALSE(item(u"levelMeter"_s)->isVisible());
+
+    // Held with the mouse while the phrase's own recording is heard.
+    input.setFile(soundPath(*quiz->phraseInfos().at(0)));
+    QTest::mousePress(app.window(), Qt::LeftButton, Qt::NoModifier, microphone());
+    ASSERT_TRUE(quiz->recording()->recording());
+    ASSERT_TRUE(input.waitDelivered(1));
+    quiz->recording()->recorder().levelPoll();
+    EXPECT_GT(quiz->recording()->level(), 0.0);
+    EXPECT_TRUE(item(u"levelMeter"_s)->isVisible());
+    EXPECT_FALSE(item(u"tipLbl"_s)->isVisible());
+    (void)app.screenshot(u"speak-quiz-recording"_s);
+
+    QTest::mouseRelease(app.window(), Qt::LeftButton, Qt::NoModifier, microphone());
+    EXPECT_FALSE(quiz->recording()->recording());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return popup()->property("visible").toBool(); }));
+    SpectrumCompView *first = quiz->spectrumCompView();
+    ASSERT_TRUE(waitCompared(first));
+    EXPECT_EQ(quiz->currWordScore(), first->score());
+    QTest::qWait(300);
+    (void)app.screenshot(u"speak-quiz-comparison"_s);
+    closePopup();
+    app.tapCentre(item(u"submitBtn"_s));
+    EXPECT_EQ(quiz->score(), first->score());
+    EXPECT_EQ(quiz->currIndex(), 1);
+
+    // Held with Space; the key's auto-repeat (a release and a press each time) is one hold.
+    input.setFile(soundPath(*quiz->phraseInfos().at(1)));
+    key(QEvent::KeyPress, false);
+    ASSERT_TRUE(quiz->recording()->recording());
+    ASSERT_TRUE(input.waitDelivered(2));
+    key(QEvent::KeyRelease, true);
+    key(QEvent::KeyPress, true);
+    EXPECT_TRUE(quiz->recording()->recording());
+    EXPECT_EQ(quiz->spectrumCompView(), nullptr);
+    key(QEvent::KeyRelease, false);
+    EXPECT_FALSE(quiz->recording()->recording());
+    EXPECT_EQ(input.delivered(), 2) << "one recording for the whole hold";
+    ASSERT_TRUE(waitCompared(quiz->spectrumCompView()));
+    closePopup();
+
+    for (int i = 1; i < 10; ++i)
+        app.tapCentre(item(u"submitBtn"_s));
+    ASSERT_TRUE(quiz->finished());
+    EXPECT_EQ(text(u"progressLbl"_s), u"Progress: 10/10"_s);
+    EXPECT_FALSE(item(u"microphoneButton"_s)->isVisible());
+
+    QQuickItem *table = item(u"resultTable"_s);
+    ASSERT_TRUE(table->isVisible());
+    EXPECT_EQ(table->property("count").toInt(), 10);
+    QQuickItem *row = AppWindow::listRow(table, 0);
+    EXPECT_EQ(findItem(row, u"testTextLbl"_s)->property("text").toString(),
+              u"%1/10"_s.arg(first->score()));
+    EXPECT_FALSE(findItem(AppWindow::listRow(table, 2), u"showVoiceprintButton"_s)->isVisible());
+    (void)app.screenshot(u"speak-quiz-results"_s);
+
+    app.tapCentre(findItem(row, u"showVoiceprintButton"_s));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return popup()->property("visible").toBool(); }));
+    EXPECT_EQ(quiz->spectrumCompView(), first);
+}

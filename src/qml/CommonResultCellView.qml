@@ -14,8 +14,8 @@ Rectangle {
     property string testText
     property color testTextColor
     property color separatorColor
-    // Room kept free on both sides of the answer, for a control at the row's right end.
-    property real testTextInset: 0
+    // Room kept free right of the answer, for a control at the row's right end.
+    property real testTextRightInset: 0
 
     signal tapped()
 
@@ -47,8 +47,7 @@ Rectangle {
     }
     ThirdLabel {
         objectName: "testTextLbl"
-        x: 4 + cell.testTextInset
-        width: parent.width - 8 - 2 * cell.testTextInset
+        width: parent.width - 8 - cell.testTextRightInset
         y: 2 * cell.height / 3
         text: cell.testText
         color: cell.testTextColor

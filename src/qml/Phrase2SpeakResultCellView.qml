@@ -11,7 +11,7 @@ CommonResultCellView {
 
     signal showSpectrums()
 
-    testTextInset: voiceprintButton.visible ? voiceprintButton.width + 4 : 0
+    testTextRightInset: voiceprintButton.visible ? voiceprintButton.width + 4 : 0
 
     Button {
         id: voiceprintButton

@@ -22,77 +22,82 @@ VoPopView {
     onClosed: if (comparison)
                   comparison.closeAction()
 
-    ColumnLayout {
+    // Built only while there is a comparison to show: its panels need one.
+    Loader {
         anchors.fill: parent
         anchors.margins: popUp.gap
-        spacing: 4
+        active: !!popUp.comparison
 
-        Label {
-            objectName: "originalVoiceLbl"
-            text: qsTr("Original Voice")
-            font.bold: true
-            color: AppColors.text
-        }
+        sourceComponent: ColumnLayout {
+            spacing: 4
 
-        VoSpectrumPanelView {
-            objectName: "standardSpectrumPanel"
-            Layout.fillWidth: true
-            // Shrinks on a short screen; never grows past its own strip and bar.
-            Layout.fillHeight: true
-            Layout.preferredHeight: implicitHeight
-            Layout.maximumHeight: implicitHeight
-            panel: popUp.comparison ? popUp.comparison.standardSpectrumPanel : null
-        }
+            Label {
+                objectName: "originalVoiceLbl"
+                text: qsTr("Original Voice")
+                font.bold: true
+                color: AppColors.text
+            }
 
-        Label {
-            objectName: "myVoiceLbl"
-            text: qsTr("My Voice")
-            font.bold: true
-            color: AppColors.text
-        }
+            VoSpectrumPanelView {
+                objectName: "standardSpectrumPanel"
+                Layout.fillWidth: true
+                // Shrinks on a short screen; never grows past its own strip and bar.
+                Layout.fillHeight: true
+                Layout.preferredHeight: implicitHeight
+                Layout.maximumHeight: implicitHeight
+                panel: popUp.comparison.standardSpectrumPanel
+            }
 
-        VoSpectrumPanelView {
-            objectName: "estimatedSpectrumPanel"
-            Layout.fillWidth: true
-            // Shrinks on a short screen; never grows past its own strip and bar.
-            Layout.fillHeight: true
-            Layout.preferredHeight: implicitHeight
-            Layout.maximumHeight: implicitHeight
-            panel: popUp.comparison ? popUp.comparison.estimatedSpectrumPanel : null
-        }
+            Label {
+                objectName: "myVoiceLbl"
+                text: qsTr("My Voice")
+                font.bold: true
+                color: AppColors.text
+            }
 
-        VoLabel {
-            objectName: "testedWordScoreLbl"
-            Layout.fillWidth: true
-            horizontalAlignment: Text.AlignHCenter
-            textFormat: Text.RichText
-            font.pixelSize: 18
-            color: AppColors.text
-            visible: !!popUp.comparison && popUp.comparison.testedWordScoreVisible
-                     && popUp.comparison.scored
-            text: popUp.comparison ? popUp.comparison.scoreStyledText : ""
-        }
+            VoSpectrumPanelView {
+                objectName: "estimatedSpectrumPanel"
+                Layout.fillWidth: true
+                // Shrinks on a short screen; never grows past its own strip and bar.
+                Layout.fillHeight: true
+                Layout.preferredHeight: implicitHeight
+                Layout.maximumHeight: implicitHeight
+                panel: popUp.comparison.estimatedSpectrumPanel
+            }
 
-        VoLabel {
-            objectName: "translateLbl"
-            Layout.fillWidth: true
-            horizontalAlignment: Text.AlignHCenter
-            font.pixelSize: 16
-            color: AppColors.secondaryText
-            text: popUp.comparison ? popUp.comparison.translateText : ""
-        }
+            VoLabel {
+                objectName: "testedWordScoreLbl"
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                textFormat: Text.RichText
+                font.pixelSize: 18
+                color: AppColors.text
+                visible: popUp.comparison.testedWordScoreVisible
+                         && popUp.comparison.scored
+                text: popUp.comparison.scoreStyledText
+            }
 
-        VoLabel {
-            objectName: "errorLbl"
-            Layout.fillWidth: true
-            horizontalAlignment: Text.AlignHCenter
-            color: AppColors.experience
-            visible: text !== ""
-            text: popUp.comparison ? popUp.comparison.errorText : ""
-        }
+            VoLabel {
+                objectName: "translateLbl"
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                font.pixelSize: 16
+                color: AppColors.secondaryText
+                text: popUp.comparison.translateText
+            }
 
-        Item {
-            Layout.fillHeight: true
+            VoLabel {
+                objectName: "errorLbl"
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                color: AppColors.experience
+                visible: text !== ""
+                text: popUp.comparison.errorText
+            }
+
+            Item {
+                Layout.fillHeight: true
+            }
         }
     }
 

@@ -1,10 +1,13 @@
 #include "SpeakingInput.h"
+#include "app/PhraseCardVC.h"
 #include "content/AppCommon.h"
 #include "quiz/QuizUiTest.h"
 #include "speaking/Phrase2SpeakVC.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QQmlContext>
+#include <QQmlExpression>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
@@ -128,4 +131,37 @@ TEST_F(SpeakQuizUiTest, ReadsPhrasesAloudByMouseAndSpaceBarToTheResults)
     app.tapCentre(findItem(row, u"showVoiceprintButton"_s));
     ASSERT_TRUE(QTest::qWaitFor([&] { return popup()->property("visible").toBool(); }));
     EXPECT_EQ(quiz->spectrumCompView(), first);
+}
+
+TEST_F(SpeakQuizUiTest, CardsCompareAReadingWithoutAMark)
+{
+    QQmlExpression push(qmlContext(app.stack()), app.stack(),
+                        u"push(\"PhraseCardPage.qml\", {categoryId: \"1\", phraseIndex: 0})"_s);
+    push.evaluate();
+    ASSERT_FALSE(push.hasError()) << qPrintable(push.error().toString());
+    ASSERT_TRUE(app.waitForDepth(2));
+    auto *cards = app.currentPage()->findChild<PhraseCardVC *>();
+    ASSERT_NE(cards, nullptr);
+
+    input.setFile(soundPath(*loadPhrases(u"1"_s)->at(0)));
+    QQuickItem *button = item(u"recordButton"_s);
+    const QPoint centre =
+        button->mapToScene(QPointF(button->width() / 2, button->height() / 2)).toPoint();
+    QTest::mousePress(app.window(), Qt::LeftButton, Qt::NoModifier, centre);
+    ASSERT_TRUE(cards->recording()->recording());
+    ASSERT_TRUE(input.waitDelivered(1));
+    QTest::mouseRelease(app.window(), Qt::LeftButton, Qt::NoModifier, centre);
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return popup()->property("visible").toBool(); }));
+    SpectrumCompView *comparison = cards->recording()->comparison();
+    ASSERT_TRUE(waitCompared(comparison));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !comparison->busy(); }, 120000));
+    EXPECT_GE(comparison->score(), 7);
+    // The pop-up lies in the window's overlay, above the screen.
+    QQuickItem *overlay = app.window()->contentItem();
+    EXPECT_FALSE(findItem(overlay, u"testedWordScoreLbl"_s)->isVisible())
+        << "the cards show no mark";
+    EXPECT_TRUE(findItem(overlay, u"estimatedSpectrumPanel"_s)->isVisible());
+    (void)app.screenshot(u"phrase-card-comparison"_s);
+    closePopup();
 }

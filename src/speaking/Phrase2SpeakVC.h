@@ -72,11 +72,11 @@ protected:
 
 private:
     void setCurrWordScore(int score);
+    void setShown(SpectrumCompView *comparison);
 
     PhraseRecording m_audioRecorder;
     MicrophonePermission m_permission;
     QString m_myVoicePath;
-    void setShown(SpectrumCompView *comparison);
 
     /// The last comparison of each question, by question index.
     std::vector<std::shared_ptr<SpectrumCompView>> m_comparisons;

@@ -148,7 +148,7 @@ BasePage {
             visible: text !== ""
             width: parent.width
             text: controller.recording.errorText
-            color: "#b22222"
+            color: AppColors.experience
             font.pixelSize: 15 * page.textScale
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignHCenter

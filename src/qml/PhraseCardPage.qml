@@ -13,6 +13,9 @@ BasePage {
     property string categoryId
     property int phraseIndex
 
+    // What sits between the card and the buttons while recording or after a failed recording.
+    readonly property Item recordingLine: levelMeter.visible ? levelMeter
+                                        : recordingError.visible ? recordingError : null
     // Six buttons and their gaps fit the narrowest window.
     readonly property real buttonSize: Math.min(48 * textScale, (width - 7 * 10 * LayoutMetrics.scaleX) / 6)
 
@@ -84,7 +87,7 @@ BasePage {
         x: page.margin
         y: page.margin
         width: parent.width - 2 * page.margin
-        height: controls.y - 2 * page.margin - (levelMeter.visible ? levelMeter.height + page.margin : 0)
+        height: controls.y - 2 * page.margin - (page.recordingLine ? page.recordingLine.height + page.margin : 0)
         phraseCard: controller
         textScale: page.textScale
     }
@@ -98,6 +101,20 @@ BasePage {
         width: 0.6 * parent.width
         height: 8 * LayoutMetrics.scaleY
         level: controller.recording.level
+    }
+
+    Label {
+        id: recordingError
+        objectName: "recordingErrorLbl"
+        visible: text !== "" && !levelMeter.visible
+        x: page.margin
+        y: controls.y - height - page.margin
+        width: parent.width - 2 * page.margin
+        text: controller.recording.errorText
+        color: AppColors.experience
+        font.pixelSize: 15 * page.textScale
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignHCenter
     }
 
     Row {

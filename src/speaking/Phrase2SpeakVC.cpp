@@ -62,7 +62,9 @@ void Phrase2SpeakVC::endRecordAction()
                     m_comparisons.at(static_cast<std::size_t>(question)).get() == view)
                     setCurrWordScore(std::clamp(view->score(), 0, maxMark));
             });
-    m_comparisons.at(static_cast<std::size_t>(question)) = comparison;
+    // The pop-up moves to the new comparison before the one it replaces goes.
+    const std::shared_ptr<SpectrumCompView> previous =
+        std::exchange(m_comparisons.at(static_cast<std::size_t>(question)), comparison);
     setShown(comparison.get());
     Q_EMIT comparisonShown();
 }

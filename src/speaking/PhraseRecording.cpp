@@ -76,7 +76,8 @@ std::shared_ptr<SpectrumCompView> PhraseRecording::end()
     comparison->setPhrase(*m_phrase);
     comparison->setEstimatedAudioFilePath(m_path);
     m_phrase = nullptr;
-    m_comparison = comparison;
+    // The views showing the previous comparison move to this one before it goes.
+    const std::shared_ptr<SpectrumCompView> previous = std::exchange(m_comparison, comparison);
     m_waiting = comparison;
     m_waitingFor = m_started;
     Q_EMIT comparisonChanged();

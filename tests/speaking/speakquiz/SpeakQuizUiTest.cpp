@@ -164,4 +164,11 @@ TEST_F(SpeakQuizUiTest, CardsCompareAReadingWithoutAMark)
     EXPECT_TRUE(findItem(overlay, u"estimatedSpectrumPanel"_s)->isVisible());
     (void)app.screenshot(u"phrase-card-comparison"_s);
     closePopup();
+
+    // An input that fails says so under the card.
+    input.setFile(input.missing());
+    QTest::mousePress(app.window(), Qt::LeftButton, Qt::NoModifier, centre);
+    QTest::mouseRelease(app.window(), Qt::LeftButton, Qt::NoModifier, centre);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return item(u"recordingErrorLbl"_s)->isVisible(); }));
+    EXPECT_FALSE(cards->recording()->errorText().isEmpty());
 }

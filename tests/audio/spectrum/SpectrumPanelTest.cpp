@@ -1,3 +1,4 @@
+#include "EvenSpectrum.h"
 #include "audio/VoSpectrumPanel.h"
 #include "stubs/AudioPlayerStub.h"
 
@@ -7,16 +8,6 @@
 
 namespace {
 
-AudioPowerSpectrumInfo framesOf(uint64_t frames)
-{
-    AudioPowerSpectrumInfo spectrum;
-    spectrum.frameCount = frames;
-    spectrum.rowCount = frames;
-    spectrum.powerData.assign(frames * AudioPowerSpectrumInfo::bins, 1.0);
-    spectrum.maxPower = 1.0;
-    return spectrum;
-}
-
 class SpectrumPanelTest : public ::testing::Test {
 protected:
     AudioPlayerStubFactory players;
@@ -24,7 +15,7 @@ protected:
 
     void show(uint64_t frames, qreal containerWidth)
     {
-        panel.setSpectrum(QStringLiteral("/course/take.mp3"), framesOf(frames));
+        panel.setSpectrum(QStringLiteral("/course/take.mp3"), evenSpectrum(frames));
         panel.setContainerWidth(containerWidth);
     }
 
@@ -58,7 +49,7 @@ TEST_F(SpectrumPanelTest, WideSpectrumTurnsWholePagesNarrowOneNeverScrolls)
     EXPECT_NEAR(panel.contentX(), 100.0, 0.01);
 
     VoSpectrumPanel narrow;
-    narrow.setSpectrum(QStringLiteral("/course/short.mp3"), framesOf(250));
+    narrow.setSpectrum(QStringLiteral("/course/short.mp3"), evenSpectrum(250));
     narrow.setContainerWidth(300.0);
     narrow.playerBox()->play(true);
     players.last->setDuration(2.5);

@@ -1,3 +1,4 @@
+#include "EvenSpectrum.h"
 #include "audio/SpectrumImage.h"
 #include "audio/VoImageUtil.h"
 
@@ -5,19 +6,9 @@
 
 namespace {
 
-AudioPowerSpectrumInfo rampOf(uint64_t frames)
-{
-    AudioPowerSpectrumInfo spectrum;
-    spectrum.frameCount = frames;
-    spectrum.rowCount = frames;
-    spectrum.powerData.assign(frames * AudioPowerSpectrumInfo::bins, 1.0);
-    spectrum.maxPower = 2.0;
-    return spectrum;
-}
-
 TEST(SpectrumPicture, PlayedColumnsLetTheBackgroundThroughAtHalfCover)
 {
-    const QImage image = genereateRGBAData(rampOf(100), 0.5F);
+    const QImage image = genereateRGBAData(evenSpectrum(100), 0.5F);
     ASSERT_EQ(image.width(), 100);
     for (const int row : {0, 64, 127}) {
         EXPECT_EQ(qAlpha(image.pixel(0, row)), 127);
@@ -28,8 +19,8 @@ TEST(SpectrumPicture, PlayedColumnsLetTheBackgroundThroughAtHalfCover)
     // Only the cover changes: the grey of a played column is the grey of an unplayed one.
     EXPECT_EQ(qRed(image.pixel(10, 5)), qRed(image.pixel(90, 5)));
 
-    EXPECT_EQ(qAlpha(genereateRGBAData(rampOf(100), 0.0F).pixel(0, 0)), 255);
-    EXPECT_EQ(qAlpha(genereateRGBAData(rampOf(100), 1.0F).pixel(99, 0)), 127);
+    EXPECT_EQ(qAlpha(genereateRGBAData(evenSpectrum(100), 0.0F).pixel(0, 0)), 255);
+    EXPECT_EQ(qAlpha(genereateRGBAData(evenSpectrum(100), 1.0F).pixel(99, 0)), 127);
     EXPECT_TRUE(genereateRGBAData(AudioPowerSpectrumInfo{}, 0.5F).isNull());
 }
 

@@ -14,11 +14,14 @@ Dialog {
     width: Math.min(parent.width * 0.8, 320)
     modal: true
     title: ""
+    padding: 20
 
     Label {
         objectName: "microphoneAlertMessage"
         width: parent.width
         text: alert.permission.message
+        font.pixelSize: 17
+        font.bold: true
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
     }

@@ -1,17 +1,20 @@
 #include "SpeakingInput.h"
 #include "app/PhraseCardVC.h"
+#include "audio/MicrophonePermission.h"
 #include "content/AppCommon.h"
 #include "quiz/QuizUiTest.h"
 #include "speaking/Phrase2SpeakVC.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -171,4 +174,28 @@ TEST_F(SpeakQuizUiTest, CardsCompareAReadingWithoutAMark)
     QTest::mouseRelease(app.window(), Qt::LeftButton, Qt::NoModifier, centre);
     EXPECT_TRUE(QTest::qWaitFor([&] { return item(u"recordingErrorLbl"_s)->isVisible(); }));
     EXPECT_FALSE(cards->recording()->errorText().isEmpty());
+}
+
+TEST_F(SpeakQuizUiTest, WithoutAMicrophoneTheAlertOffersTheSoundSettings)
+{
+    int opened = 0;
+    MicrophonePermission permission([] { return false; }, [&] { ++opened; });
+    ASSERT_TRUE(permission.check());
+
+    QQmlComponent component(&app.engine(), QUrl(u"qrc:/Tolvane/MicrophoneAlert.qml"_s));
+    std::unique_ptr<QObject> alert(component.beginCreate(app.engine().rootContext()));
+    ASSERT_TRUE(alert) << qPrintable(component.errorString());
+    alert->setProperty("permission", QVariant::fromValue(&permission));
+    alert->setProperty("parent", QVariant::fromValue(app.window()->contentItem()));
+    component.completeCreate();
+    QMetaObject::invokeMethod(alert.get(), "open");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return alert->property("opened").toBool(); }));
+
+    QQuickItem *root = app.window()->contentItem();
+    EXPECT_EQ(findItem(root, u"microphoneAlertMessage"_s)->property("text").toString(),
+              u"Microphone Access Denied"_s);
+    (void)app.screenshot(u"microphone-alert"_s);
+    app.tapCentre(findItem(root, u"microphoneAlertSettings"_s));
+    EXPECT_EQ(opened, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !alert->property("visible").toBool(); }));
 }

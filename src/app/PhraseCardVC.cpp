@@ -107,8 +107,7 @@ bool PhraseCardVC::beginRecord()
     stopAudio();
     if (m_permission.check())
         return false;
-    m_myVoicePath = m_audioRecorder.begin(*m_phraseInfo);
-    m_recordPressed = !m_myVoicePath.isEmpty();
+    m_recordPressed = !m_audioRecorder.begin(*m_phraseInfo).isEmpty();
     return true;
 }
 

@@ -89,7 +89,7 @@ public:
     [[nodiscard]] bool nextItemEnabled() const { return m_nextItemBtn.enabled; }
     [[nodiscard]] PhraseRecording *recording() { return &m_audioRecorder; }
     [[nodiscard]] MicrophonePermission *permission() { return &m_permission; }
-    [[nodiscard]] const QString &myVoicePath() const { return m_myVoicePath; }
+    [[nodiscard]] const QString &myVoicePath() const { return m_audioRecorder.path(); }
 
 Q_SIGNALS:
     void titleChanged();
@@ -122,7 +122,6 @@ private:
     ItemButton m_nextItemBtn{QStringLiteral("btn-next2")};
     PhraseRecording m_audioRecorder;
     MicrophonePermission m_permission;
-    QString m_myVoicePath;
     /// Between a press of the record button that started a recording and its release.
     bool m_recordPressed{false};
 };

@@ -49,14 +49,19 @@ QImage genereateRGBAData(const AudioPowerSpectrumInfo &spectrum, float playProgr
     const QImage grey = spectrumImage(spectrum);
     if (grey.isNull())
         return {};
+    return dimPlayedColumns(grey.convertToFormat(QImage::Format_RGBA8888), playProgress);
+}
+
+QImage dimPlayedColumns(QImage picture, float playProgress)
+{
+    if (picture.format() != QImage::Format_RGBA8888)
+        return picture;
     // Straight (not premultiplied) alpha: the grey stays as it is and only its cover halves.
-    QImage image = grey.convertToFormat(QImage::Format_RGBA8888);
-    const double played = static_cast<double>(image.width()) * static_cast<double>(playProgress);
-    for (int row = 0; row < image.height(); ++row) {
-        uchar *pixel = image.scanLine(row);
-        for (int column = 0; column < image.width() && column < played; ++column)
-            pixel[column * 4 + 3] =
-                static_cast<uchar>(std::clamp(pixel[column * 4 + 3] / 2, 0, 255));
+    const double played = static_cast<double>(picture.width()) * static_cast<double>(playProgress);
+    for (int row = 0; row < picture.height(); ++row) {
+        uchar *pixel = picture.scanLine(row);
+        for (int column = 0; column < picture.width() && column < played; ++column)
+            pixel[column * 4 + 3] /= 2;
     }
-    return image;
+    return picture;
 }

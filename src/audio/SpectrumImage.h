@@ -21,3 +21,6 @@
  * through it and the boundary reads as the play position. Null, as above, without data.
  */
 [[nodiscard]] QImage genereateRGBAData(const AudioPowerSpectrumInfo &spectrum, float playProgress);
+/// The dimming of genereateRGBAData on a picture already in RGBA8888 (others come back as they
+/// are), for views that keep the undimmed picture and dim it as the recording plays.
+[[nodiscard]] QImage dimPlayedColumns(QImage picture, float playProgress);

@@ -2,9 +2,6 @@
 
 #include "SpectrumImage.h"
 
-#include <algorithm>
-#include <limits>
-
 namespace {
 /// The cursor rests at the end for a moment before it returns to the start.
 constexpr std::chrono::seconds restAtEnd{1};
@@ -31,7 +28,8 @@ VoSpectrumPanel::~VoSpectrumPanel() = default;
 void VoSpectrumPanel::setSpectrum(const QString &audioFilePath, const AudioPowerSpectrumInfo &info)
 {
     m_audioFilePath = audioFilePath;
-    m_powerSpectrumInfo = info;
+    // Drawn once here: the view dims a copy of it on every beat of the player.
+    m_picture = info.frameCount == 0 ? QImage() : genereateRGBAData(info, 0.0F);
     Q_EMIT spectrumChanged();
     m_playerBox.setupPlayer({audioFilePath});
 }
@@ -52,9 +50,7 @@ void VoSpectrumPanel::stopPlay()
 
 QImage VoSpectrumPanel::image() const
 {
-    if (m_powerSpectrumInfo.frameCount == 0)
-        return {};
-    return genereateRGBAData(m_powerSpectrumInfo, m_playProgress);
+    return dimPlayedColumns(m_picture, m_playProgress);
 }
 
 void VoSpectrumPanel::setTag(int tag)
@@ -71,17 +67,6 @@ void VoSpectrumPanel::setNeedRun(bool needRun)
         return;
     m_needRun = needRun;
     Q_EMIT needRunChanged();
-}
-
-int VoSpectrumPanel::spectrumWidth() const
-{
-    return static_cast<int>(
-        std::min<uint64_t>(m_powerSpectrumInfo.frameCount, std::numeric_limits<int>::max()));
-}
-
-int VoSpectrumPanel::spectrumHeight() const
-{
-    return m_powerSpectrumInfo.frameCount == 0 ? 0 : m_powerSpectrumInfo.spectrumSize;
 }
 
 void VoSpectrumPanel::setContainerWidth(qreal width)

@@ -58,8 +58,8 @@ public:
     [[nodiscard]] bool needRun() const { return m_needRun; }
     void setNeedRun(bool needRun);
     [[nodiscard]] const QString &audioFilePath() const { return m_audioFilePath; }
-    [[nodiscard]] int spectrumWidth() const;
-    [[nodiscard]] int spectrumHeight() const;
+    [[nodiscard]] int spectrumWidth() const { return m_picture.width(); }
+    [[nodiscard]] int spectrumHeight() const { return m_picture.height(); }
     [[nodiscard]] float playProgress() const { return m_playProgress; }
     [[nodiscard]] qreal containerWidth() const { return m_containerWidth; }
     void setContainerWidth(qreal width);
@@ -85,7 +85,8 @@ private:
     int m_tag{0};
     bool m_needRun{true};
     QString m_audioFilePath;
-    AudioPowerSpectrumInfo m_powerSpectrumInfo;
+    /// The spectrum as drawn, nothing played yet; null without a spectrum.
+    QImage m_picture;
     float m_playProgress{0.0F};
     qreal m_containerWidth{0.0};
     qreal m_contentX{0.0};

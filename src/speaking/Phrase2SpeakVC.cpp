@@ -41,7 +41,7 @@ void Phrase2SpeakVC::beginRecordAction()
         m_tipShown = false;
         Q_EMIT tipTextChanged();
     }
-    m_myVoicePath = m_audioRecorder.begin(*phraseInfos().at(currIndex()));
+    m_audioRecorder.begin(*phraseInfos().at(currIndex()));
 }
 
 void Phrase2SpeakVC::endRecordAction()
@@ -53,7 +53,7 @@ void Phrase2SpeakVC::endRecordAction()
     std::shared_ptr<SpectrumCompView> comparison = m_audioRecorder.end();
     if (!comparison)
         return;
-    inputPhraseInfos().at(currIndex())->soundPath = m_myVoicePath;
+    inputPhraseInfos().at(currIndex())->soundPath = comparison->estimatedAudioFilePath();
     comparison->setTestedWordScoreVisible(false);
     const int question = currIndex();
     connect(comparison.get(), &SpectrumCompView::scoreChanged, this,

@@ -56,7 +56,7 @@ public:
     [[nodiscard]] SpectrumCompView *spectrumCompView() const { return m_shown; }
     [[nodiscard]] int currWordScore() const { return m_currWordScore; }
     [[nodiscard]] QString tipText() const;
-    [[nodiscard]] const QString &myVoicePath() const { return m_myVoicePath; }
+    [[nodiscard]] const QString &myVoicePath() const { return m_audioRecorder.path(); }
 
 Q_SIGNALS:
     void spectrumCompViewChanged();
@@ -76,7 +76,6 @@ private:
 
     PhraseRecording m_audioRecorder;
     MicrophonePermission m_permission;
-    QString m_myVoicePath;
 
     /// The last comparison of each question, by question index.
     std::vector<std::shared_ptr<SpectrumCompView>> m_comparisons;

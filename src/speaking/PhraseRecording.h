@@ -55,6 +55,8 @@ public:
     [[nodiscard]] qreal level() const { return m_level; }
     [[nodiscard]] SpectrumCompView *comparison() const { return m_comparison.get(); }
     [[nodiscard]] const QString &errorText() const { return m_errorText; }
+    /// The file of the last recording begun; empty before the first.
+    [[nodiscard]] const QString &path() const { return m_path; }
     [[nodiscard]] VoAudioRecorder &recorder() { return m_recorder; }
 
 Q_SIGNALS:

@@ -7,6 +7,7 @@
 #include "support/TestPaths.h"
 
 #include <QDir>
+#include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickStyle>
 #include <QQuickWindow>
@@ -94,6 +95,20 @@ void AppWindow::tap(QQuickItem *item, QPointF point) const
 void AppWindow::tapCentre(QQuickItem *item) const
 {
     tap(item, QPointF(item->width() / 2, item->height() / 2));
+}
+
+std::unique_ptr<QObject> AppWindow::createView(const QString &file, const QVariantMap &properties)
+{
+    QQmlComponent component(&m_engine, QUrl(u"qrc:/Tolvane/"_s + file));
+    std::unique_ptr<QObject> view(component.beginCreate(m_engine.rootContext()));
+    if (!view) {
+        qWarning("%s did not load: %s", qPrintable(file), qPrintable(component.errorString()));
+        return view;
+    }
+    component.setInitialProperties(view.get(), properties);
+    view->setProperty("parent", QVariant::fromValue(m_window->contentItem()));
+    component.completeCreate();
+    return view;
 }
 
 QImage AppWindow::screenshot(const QString &name) const

@@ -4,6 +4,8 @@
 #include <QPointF>
 #include <QQmlApplicationEngine>
 #include <QString>
+#include <QVariantMap>
+#include <memory>
 
 class QQuickItem;
 class QQuickWindow;
@@ -37,6 +39,12 @@ public:
     /// A left click at a point of the item, through the window as a mouse would.
     void tap(QQuickItem *item, QPointF point) const;
     void tapCentre(QQuickItem *item) const;
+
+    /// A view of the app's module (qrc:/Tolvane/{file}) placed over the window, its properties,
+    /// required ones included, set before it completes; null, with QML's errors logged, when it
+    /// cannot be made.
+    [[nodiscard]] std::unique_ptr<QObject> createView(const QString &file,
+                                                      const QVariantMap &properties);
 
     /// Grabs the window and keeps the picture as screenshots/{name}.png in the build folder.
     [[nodiscard]] QImage screenshot(const QString &name) const;

@@ -1,11 +1,10 @@
 #include "AppWindow.h"
 #include "audio/VoSpectrumPanel.h"
-#include "speech/VoLanguageModelTrainer.h"
+#include "speech/PhraseAssessment.h"
 #include "speech/VoPSRecognizer.h"
 #include "stubs/AudioPlayerStub.h"
 #include "support/TestPaths.h"
 
-#include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -20,15 +19,10 @@ namespace {
 AudioPowerSpectrumInfo courseSpectrum(const QString &voice, const QString &text)
 {
     QTemporaryDir folder;
-    VoLanguageModelTrainer trainer;
-    trainer.setLmBasePath(folder.path());
-    const LanguageModelError model = trainer.generateLanguageModelFromArray(
-        VoPSRecognizer::getAllWordFromText(text, true), u"test"_s, TestPaths::acousticModel());
-    EXPECT_TRUE(model.succeeded());
+    const PhraseModel model = generatePhraseModel(text, folder.path(), TestPaths::acousticModel());
+    EXPECT_TRUE(model.succeeded()) << qPrintable(model.error);
     VoPSRecognizer recognizer;
-    recognizer.runRecognitionOnWavFileAtPath(voice, model.userInfo.value(u"LMPath"_s).toString(),
-                                             model.userInfo.value(u"DictionaryPath"_s).toString(),
-                                             TestPaths::acousticModel(), false);
+    (void)assessWithModel(recognizer, text, voice, model, TestPaths::acousticModel());
     return recognizer.powerSpectrumInfo();
 }
 
@@ -41,14 +35,10 @@ TEST(SpectrumPanelUi, ShowsTheSpectrumWithThePlayedPartDimmed)
     panel.setSpectrum(voice, courseSpectrum(voice, u"Was machst du in deiner Freizeit?"_s));
     ASSERT_GT(panel.spectrumWidth(), 200);
 
-    QQmlComponent component(&app.engine(), QUrl(u"qrc:/Tolvane/VoSpectrumPanelView.qml"_s));
-    std::unique_ptr<QObject> created(component.beginCreate(app.engine().rootContext()));
-    ASSERT_TRUE(created) << qPrintable(component.errorString());
-    created->setProperty("panel", QVariant::fromValue(&panel));
-    created->setProperty("y", 120);
-    component.completeCreate();
+    const std::unique_ptr<QObject> created = app.createView(
+        u"VoSpectrumPanelView.qml"_s, {{u"panel"_s, QVariant::fromValue(&panel)}, {u"y"_s, 120}});
     auto *view = qobject_cast<QQuickItem *>(created.get());
-    view->setParentItem(app.window()->contentItem());
+    ASSERT_NE(view, nullptr);
     view->setWidth(app.window()->width());
 
     const QQuickItem *container = findItem(view, u"asContainer"_s);

@@ -1,7 +1,6 @@
 #include "AppWindow.h"
 #include "ComparisonFixture.h"
 
-#include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -19,12 +18,9 @@ TEST(SpectrumCompViewUiTest, ThePopUpShowsBothSpectraAndTheMarkAndClosingStopsTh
     comparison.setPhrase(*phrase);
     comparison.setEstimatedAudioFilePath(comparison.standardAudioFilePath());
 
-    QQmlComponent component(&app.engine(), QUrl(u"qrc:/Tolvane/SpectrumCompViewPopup.qml"_s));
-    std::unique_ptr<QObject> popUp(component.beginCreate(app.engine().rootContext()));
-    ASSERT_TRUE(popUp) << qPrintable(component.errorString());
-    popUp->setProperty("comparison", QVariant::fromValue(&comparison));
-    popUp->setProperty("parent", QVariant::fromValue(app.window()->contentItem()));
-    component.completeCreate();
+    const std::unique_ptr<QObject> popUp = app.createView(
+        u"SpectrumCompViewPopup.qml"_s, {{u"comparison"_s, QVariant::fromValue(&comparison)}});
+    ASSERT_TRUE(popUp);
     QMetaObject::invokeMethod(popUp.get(), "open");
     ASSERT_TRUE(QTest::qWaitFor([&] { return popUp->property("opened").toBool(); }));
 

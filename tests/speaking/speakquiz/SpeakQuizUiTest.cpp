@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QQuickWindow>
@@ -182,12 +181,9 @@ TEST_F(SpeakQuizUiTest, WithoutAMicrophoneTheAlertOffersTheSoundSettings)
     MicrophonePermission permission([] { return false; }, [&] { ++opened; });
     ASSERT_TRUE(permission.check());
 
-    QQmlComponent component(&app.engine(), QUrl(u"qrc:/Tolvane/MicrophoneAlert.qml"_s));
-    std::unique_ptr<QObject> alert(component.beginCreate(app.engine().rootContext()));
-    ASSERT_TRUE(alert) << qPrintable(component.errorString());
-    alert->setProperty("permission", QVariant::fromValue(&permission));
-    alert->setProperty("parent", QVariant::fromValue(app.window()->contentItem()));
-    component.completeCreate();
+    const std::unique_ptr<QObject> alert = app.createView(
+        u"MicrophoneAlert.qml"_s, {{u"permission"_s, QVariant::fromValue(&permission)}});
+    ASSERT_TRUE(alert);
     QMetaObject::invokeMethod(alert.get(), "open");
     ASSERT_TRUE(QTest::qWaitFor([&] { return alert->property("opened").toBool(); }));
 

@@ -54,11 +54,13 @@ void BM_QualityTable(benchmark::State &state)
             const QString recording = store.soundPath(phrase);
             const QString ownText = foreignText(phrase);
             const QString otherText = foreignText(*phrases[(i + 1) % phrases.size()]);
-            const PhraseAssessment own = assessRecording(ownText, recording, acousticModel);
-            const PhraseAssessment ownAgain = assessRecording(ownText, recording, acousticModel);
-            const PhraseAssessment other = assessRecording(otherText, recording, acousticModel);
+            const PhraseAssessment own =
+                assessRecording(ownText, phrase.phon, recording, acousticModel);
+            const PhraseAssessment ownAgain =
+                assessRecording(ownText, phrase.phon, recording, acousticModel);
+            const PhraseAssessment other = assessRecording(otherText, {}, recording, acousticModel);
             const PhraseAssessment otherAgain =
-                assessRecording(otherText, recording, acousticModel);
+                assessRecording(otherText, {}, recording, acousticModel);
             if (!own.succeeded() || !other.succeeded()) {
                 ++failures;
                 continue;

@@ -2,15 +2,19 @@
 
 #include "GermanPronouncer.h"
 #include "ModelPhones.h"
-#include "PronunciationList.h"
 #include "content/AppCommon.h"
+#include "content/VoAppCommon.h"
 #include "content/VoFileUtil.h"
+#include "speech/PronunciationList.h"
 #include "speech/RecognizerWords.h"
 #include "speech/VoLanguageModelTrainer.h"
+#include "speech/verify/ReadingVerifier.h"
+#include "speech/verify/VerificationDecoder.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
+#include <QRegularExpression>
 #include <algorithm>
 #include <utility>
 
@@ -33,6 +37,24 @@ QStringList courseWords(const QString &courseFolder)
     return words;
 }
 
+/// The course's words as the quizzes split them, upper-cased, that the recogniser's split would
+/// not keep whole: they hold a letter outside A to Z ("BRÖTCHEN", "STRASSE" stays out).
+QStringList wholeWordsOnly(const QString &courseFolder)
+{
+    static const QRegularExpression asciiWord(QStringLiteral("^[A-Z']+$"));
+    ContentStore store(courseFolder);
+    QStringList words;
+    for (const CategoryInfo *category : store.loadAllCategories()) {
+        for (const PhraseInfo *phrase : *store.loadPhrases(category->id)) {
+            for (const QString &word : VoAppCommon::getAllWordFromText(foreignText(*phrase), true))
+                if (!asciiWord.match(word).hasMatch())
+                    words.append(word);
+        }
+    }
+    words.removeDuplicates();
+    return words;
+}
+
 } // namespace
 
 AcousticModelBuilder::AcousticModelBuilder(Sources sources, QString outputFolder)
@@ -49,11 +71,12 @@ bool AcousticModelBuilder::fail(const QString &message)
 QString AcousticModelBuilder::summary() const
 {
     return QStringLiteral("%1: %2 dictionary entries, %3 course words, %4 German pronunciations "
-                          "from espeak-ng")
+                          "from espeak-ng, %5 whole words")
         .arg(m_outputFolder)
         .arg(m_dictionaryEntries)
         .arg(m_courseWords)
-        .arg(m_pronounced);
+        .arg(m_pronounced)
+        .arg(m_wholeWords);
 }
 
 bool AcousticModelBuilder::build()
@@ -102,7 +125,7 @@ bool AcousticModelBuilder::build()
 
     if (!QDir().mkpath(m_outputFolder))
         return fail(QStringLiteral("cannot make the folder %1").arg(m_outputFolder));
-    if (!copyModelFiles())
+    if (!copyModelFiles() || !writeWholeWordList(*pronouncer))
         return false;
     // Written last: the build takes this file for the whole folder.
     const QString listPath =
@@ -112,17 +135,39 @@ bool AcousticModelBuilder::build()
     return true;
 }
 
+bool AcousticModelBuilder::writeWholeWordList(const GermanPronouncer &pronouncer)
+{
+    const QStringList words = wholeWordsOnly(m_sources.courseFolder);
+    const std::optional<QStringList> phones = pronouncer.pronounce(words, m_error);
+    if (!phones)
+        return false;
+    QList<Pronunciation> list;
+    for (qsizetype i = 0; i < words.size(); ++i)
+        list.append({words[i], 1, (*phones)[i]});
+    sortForLookup(list);
+    m_wholeWords = list.size();
+    const QString path =
+        QDir(m_outputFolder).filePath(QLatin1String(ReadingVerifier::wholeWordListFileName));
+    if (!VoFileUtil::writeFileAtomically(path, lookupListText(list)))
+        return fail(QStringLiteral("cannot write %1").arg(path));
+    return true;
+}
+
 bool AcousticModelBuilder::copyModelFiles()
 {
     const QDir model(m_sources.modelFolder);
     const QStringList files = model.entryList(QDir::Files, QDir::Name);
     if (files.isEmpty())
         return fail(QStringLiteral("no model files in %1").arg(m_sources.modelFolder));
-    for (const QString &file : files) {
-        const std::optional<QByteArray> bytes = VoFileUtil::readFile(model.filePath(file));
+    QStringList sources;
+    for (const QString &file : files)
+        sources.append(model.filePath(file));
+    sources.append(m_sources.phoneLanguageModelPath);
+    for (const QString &source : sources) {
+        const std::optional<QByteArray> bytes = VoFileUtil::readFile(source);
         if (!bytes)
-            return fail(QStringLiteral("cannot read %1").arg(model.filePath(file)));
-        const QString target = QDir(m_outputFolder).filePath(file);
+            return fail(QStringLiteral("cannot read %1").arg(source));
+        const QString target = QDir(m_outputFolder).filePath(QFileInfo(source).fileName());
         if (!VoFileUtil::writeFileAtomically(target, *bytes))
             return fail(QStringLiteral("cannot write %1").arg(target));
     }

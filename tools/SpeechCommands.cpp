@@ -63,6 +63,14 @@ void printAssessment(const CommandLine &command, const PhraseAssessment &assessm
     command.out << "mark: " << assessment.mark << "/10\n";
     for (auto advice = assessment.advices.cbegin(); advice != assessment.advices.cend(); ++advice)
         command.out << "advice " << advice.key() << ": " << advice.value().toString() << '\n';
+    const ReadingVerification &check = assessment.verification;
+    command.out << "check: " << (check.succeeded ? QStringLiteral("made") : check.note)
+                << " aligned " << check.aligned << " goodness " << check.goodness << '\n';
+    for (const WordVerification &word : check.words)
+        command.out << "  " << word.word << '\t' << verdictName(word.verdict) << '\t'
+                    << word.goodness << '\t' << word.startFrame << '-' << word.endFrame << '\t'
+                    << word.weakestPhone << ' ' << word.weakestIpa << ' ' << word.weakestLetters
+                    << '\n';
 }
 
 void printAssessmentJson(const CommandLine &command, const PhraseAssessment &assessment)
@@ -111,7 +119,8 @@ int runAssessCommand(const CommandLine &command)
     const QString jsonFlag = QStringLiteral("--json");
     const QString verboseFlag = QStringLiteral("--verbose");
     const ParsedArguments parsed = ParsedArguments::parse(
-        command.arguments, {QStringLiteral("--text"), hmmOption}, {jsonFlag, verboseFlag});
+        command.arguments, {QStringLiteral("--text"), QStringLiteral("--ipa"), hmmOption},
+        {jsonFlag, verboseFlag});
     if (!parsed.error.isEmpty())
         return command.fail(QStringLiteral("assess: ") + parsed.error);
     const QString text = parsed.values.value(QStringLiteral("--text"));
@@ -125,7 +134,8 @@ int runAssessCommand(const CommandLine &command)
     // scores as it does.
     VoPSRecognizer::setVerboseRecognizer(parsed.flags.contains(verboseFlag));
     VoPSRecognizer::setVerboseDecoder(parsed.flags.contains(verboseFlag));
-    const PhraseAssessment assessment = assessRecording(text, recording, acousticModelPath(parsed));
+    const PhraseAssessment assessment = assessRecording(
+        text, parsed.values.value(QStringLiteral("--ipa")), recording, acousticModelPath(parsed));
     // A recording that did not decode has been logged, in one line naming the file.
     if (assessment.failure == PhraseAssessment::Failure::Recording)
         return 1;

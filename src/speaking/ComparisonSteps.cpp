@@ -3,9 +3,11 @@
 #include "content/VoLog.h"
 #include "speech/SpeechLog.h"
 #include "speech/VoPSRecognizer.h"
+#include "speech/verify/ReadingVerifier.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <optional>
 
 namespace {
 
@@ -81,9 +83,14 @@ RecordingComparison compareRecording(const ComparisonRequest &request)
         return comparison;
     }
 
+    // Kept for the worker thread's life: its decoder is most of a check's start.
+    static std::optional<ReadingVerifier> verifier;
+    if (!verifier || verifier->acousticModelPath() != request.acousticModelPath)
+        verifier.emplace(request.acousticModelPath);
     VoPSRecognizer recognizer;
-    comparison.assessment = assessWithModel(recognizer, request.text, request.recordingPath,
-                                            comparison.model, request.acousticModelPath);
+    const ReadingTarget target{request.text, request.ipa, comparison.model,
+                               request.acousticModelPath};
+    comparison.assessment = assessWithModel(recognizer, *verifier, target, request.recordingPath);
     if (!comparison.assessment.succeeded()) {
         comparison.failure = RecordingComparison::Failure::UnreadableRecording;
         return comparison;

@@ -9,6 +9,8 @@
 struct ComparisonRequest {
     /// The phrase's German text.
     QString text;
+    /// Its IPA, word by word.
+    QString ipa;
     QString recordingPath;
     /// The files the pop-up already has, possibly none.
     PhraseModel model;

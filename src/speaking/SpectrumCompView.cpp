@@ -43,6 +43,7 @@ SpectrumCompView::~SpectrumCompView() = default;
 void SpectrumCompView::setPhrase(const PhraseInfo &phrase)
 {
     setStandardText(foreignText(phrase));
+    m_standardPhon = phrase.phon;
     setTranslateText(translation(phrase, Preferences::instance().languageType()));
     setStandardAudioFilePath(recordingOf(phrase));
 }
@@ -60,6 +61,7 @@ void SpectrumCompView::runComparison()
 
     ComparisonRequest request;
     request.text = m_standardText;
+    request.ipa = m_standardPhon;
     request.model.languageModelPath = m_languageModelPath;
     request.model.dictionaryPath = m_dictionaryPath;
     request.modelFolder = AppPaths::languageModelFolder();

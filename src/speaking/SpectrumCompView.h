@@ -114,6 +114,8 @@ private:
     void showStandard(const QString &recordingPath, const RecordingComparison &comparison);
 
     QString m_standardText;
+    /// The phrase's IPA, for naming a weak sound.
+    QString m_standardPhon;
     QString m_standardAudioFilePath;
     QString m_languageModelPath;
     QString m_dictionaryPath;

@@ -1,14 +1,43 @@
 #include "PhraseAssessment.h"
 
+#include "SpeechLog.h"
+#include "VoCommandArray.h"
 #include "VoLanguageModelTrainer.h"
 #include "VoPSRecognizer.h"
+#include "audio/VoAudioUtil.h"
 #include "content/VoLog.h"
+#include "verify/ReadingMark.h"
+#include "verify/ReadingVerifier.h"
 
 #include <QTemporaryDir>
-#include <cmath>
+#include <future>
+#include <system_error>
 
 namespace {
-constexpr char assessmentSource[] = "Tolvane/PhraseAssessment";
+
+PhraseAssessment failed(PhraseAssessment::Failure failure, const QString &error)
+{
+    PhraseAssessment assessment;
+    assessment.failure = failure;
+    assessment.error = error;
+    return assessment;
+}
+
+/// The check on its own thread, so that it costs the learner no time beside the recognition;
+/// in line when no thread can be had.
+std::future<ReadingVerification> startCheck(ReadingVerifier &verifier, const ReadingTarget &target,
+                                            const std::vector<int16_t> &samples)
+{
+    auto check = [&verifier, &target, &samples] {
+        return verifier.verify(target.text, target.ipa, target.model.dictionaryPath, samples);
+    };
+    try {
+        return std::async(std::launch::async, check);
+    } catch (const std::system_error &) {
+        return std::async(std::launch::deferred, check);
+    }
+}
+
 } // namespace
 
 PhraseModel generatePhraseModel(const QString &phrase, const QString &folder,
@@ -32,50 +61,70 @@ PhraseModel generatePhraseModel(const QString &phrase, const QString &folder,
     return model;
 }
 
-PhraseAssessment assessWithModel(VoPSRecognizer &recognizer, const QString &phrase,
-                                 const QString &recordingPath, const PhraseModel &model,
-                                 const QString &acousticModelPath)
+PhraseAssessment assessSamples(VoPSRecognizer &recognizer, ReadingVerifier &verifier,
+                               const ReadingTarget &target, std::vector<int16_t> samples)
 {
-    PhraseAssessment assessment;
-    recognizer.runRecognitionOnWavFileAtPath(recordingPath, model.languageModelPath,
-                                             model.dictionaryPath, acousticModelPath, false);
-    if (recognizer.audioData().empty()) {
-        assessment.failure = PhraseAssessment::Failure::Recording;
-        assessment.error = QStringLiteral("%1 could not be recognised").arg(recordingPath);
-        return assessment;
+    const double seconds = static_cast<double>(samples.size()) / VoCommandArray::sampleRate;
+    if (seconds > VoPSRecognizer::longestRecordingSeconds) {
+        VoLog::write(lcSpeech(), VoLog::Error,
+                     QStringLiteral("a recording of %1 s is longer than the %2 s the recogniser "
+                                    "takes; not recognised")
+                         .arg(seconds)
+                         .arg(VoPSRecognizer::longestRecordingSeconds));
+        return failed(PhraseAssessment::Failure::Recording,
+                      QStringLiteral("the recording is too long"));
     }
+    std::future<ReadingVerification> check = startCheck(verifier, target, samples);
+    recognizer.runRecognitionOnSamples(samples, target.model.languageModelPath,
+                                       target.model.dictionaryPath, target.acousticModelPath,
+                                       false);
+    ReadingVerification verification = check.get();
+    // The recogniser keeps the samples once its decoder has started.
+    if (recognizer.audioData().empty())
+        return failed(PhraseAssessment::Failure::Recording,
+                      QStringLiteral("the recording could not be recognised"));
+    PhraseAssessment assessment;
+    assessment.verification = std::move(verification);
     assessment.hypothesis = recognizer.hypothesis();
     assessment.wordsInfo = recognizer.wordsInfo();
-    assessment.score = VoPSRecognizer::getScore(assessment.wordsInfo, phrase, assessment.advices);
-    assessment.mark = markForScore(assessment.score);
+    assessment.score =
+        VoPSRecognizer::getScore(assessment.wordsInfo, target.text, assessment.advices);
+    if (!assessment.verification.succeeded)
+        VoLog::write(lcSpeech(), VoLog::Error,
+                     QStringLiteral("the reading of \"%1\" was not checked (%2); it gets the "
+                                    "recogniser's mark")
+                         .arg(target.text, assessment.verification.note));
+    assessment.mark = ReadingMark::mark(assessment.score, assessment.verification);
     return assessment;
 }
 
-int markForScore(float score)
+PhraseAssessment assessWithModel(VoPSRecognizer &recognizer, ReadingVerifier &verifier,
+                                 const ReadingTarget &target, const QString &recordingPath)
 {
-    const float mark = std::floor(score / 10.0F);
-    if (!std::isfinite(mark) || mark < 0.0F || mark > 10.0F)
-        fatal(assessmentSource, __LINE__, QStringLiteral("the score %1 gives no mark").arg(score));
-    return static_cast<int>(mark);
+    AudioDataInfo audio;
+    if (VoAudioUtil::decodeAudioDataFromFile(recordingPath, audio) != 0) {
+        VoLog::write(
+            lcSpeech(), VoLog::Error,
+            QStringLiteral(" can not decode audio data from the file: %1").arg(recordingPath));
+        return failed(PhraseAssessment::Failure::Recording,
+                      QStringLiteral("%1 could not be decoded").arg(recordingPath));
+    }
+    return assessSamples(recognizer, verifier, target,
+                         VoAudioUtil::getAudioDataShortForByte(audio));
 }
 
-PhraseAssessment assessRecording(const QString &phrase, const QString &recordingPath,
-                                 const QString &acousticModelPath)
+PhraseAssessment assessRecording(const QString &phrase, const QString &ipa,
+                                 const QString &recordingPath, const QString &acousticModelPath)
 {
     const QTemporaryDir folder;
-    if (!folder.isValid()) {
-        PhraseAssessment assessment;
-        assessment.failure = PhraseAssessment::Failure::Model;
-        assessment.error = QStringLiteral("can not make a temporary folder for the model");
-        return assessment;
-    }
-    const PhraseModel model = generatePhraseModel(phrase, folder.path(), acousticModelPath);
-    if (!model.succeeded()) {
-        PhraseAssessment assessment;
-        assessment.failure = PhraseAssessment::Failure::Model;
-        assessment.error = model.error;
-        return assessment;
-    }
+    if (!folder.isValid())
+        return failed(PhraseAssessment::Failure::Model,
+                      QStringLiteral("can not make a temporary folder for the model"));
+    ReadingTarget target{phrase, ipa, generatePhraseModel(phrase, folder.path(), acousticModelPath),
+                         acousticModelPath};
+    if (!target.model.succeeded())
+        return failed(PhraseAssessment::Failure::Model, target.model.error);
     VoPSRecognizer recognizer;
-    return assessWithModel(recognizer, phrase, recordingPath, model, acousticModelPath);
+    ReadingVerifier verifier(acousticModelPath);
+    return assessWithModel(recognizer, verifier, target, recordingPath);
 }

@@ -1,5 +1,6 @@
 #include "VoPSRecognizer.h"
 
+#include "DecoderLog.h"
 #include "FrontEndFraming.h"
 #include "LogPowerSpectrum.h"
 #include "SpeechLog.h"
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QTextStream>
 #include <cstdio>
-#include <sphinxbase/err.h>
 
 /// @brief Seconds since the start of one recognition, from the lap timer's laps.
 class RecognitionClock {
@@ -32,7 +32,6 @@ private:
 namespace {
 
 bool verboseRecognizer = false;
-bool verboseDecoder = false;
 
 // This release no longer names utterances. The release the progress lines come from numbered
 // them per decoder from 000000000, and every recognition here has a decoder of its own.
@@ -57,12 +56,6 @@ void trace(const QString &text)
 void logElapsed(const char *format, RecognitionClock &clock)
 {
     VoLog::write(lcSpeech(), VoLog::Progress, QString::asprintf(format, clock.elapsed()));
-}
-
-/// The decoder library logs to standard error unless told otherwise, on every decoder start.
-void routeDecoderLog()
-{
-    err_set_logfp(verboseDecoder ? stderr : nullptr);
 }
 
 /// Front-end settings beyond the option list, applied to the parsed configuration.
@@ -93,7 +86,7 @@ void VoPSRecognizer::setVerboseRecognizer(bool on)
 
 void VoPSRecognizer::setVerboseDecoder(bool on)
 {
-    verboseDecoder = on;
+    setDecoderLogVerbose(on);
 }
 
 std::optional<DecoderArguments>
@@ -116,7 +109,8 @@ sphinx::DecoderPtr VoPSRecognizer::initializeDecoder(const QString &languageMode
                                                      const QString &acousticModelPath,
                                                      bool languageModelIsJSGF)
 {
-    routeDecoderLog();
+    // The decoder library logs to standard error unless told otherwise, on every decoder start.
+    const DecoderLogGuard log;
     std::optional<DecoderArguments> arguments =
         setUpCommandArray(VoCommandArray(), false, languageModelPath, dictionaryPath,
                           acousticModelPath, languageModelIsJSGF);
@@ -290,7 +284,7 @@ int VoPSRecognizer::runRecognitionOnRawFileAtPath(const QString &rawPath,
 {
     if (!acceptsLength(static_cast<size_t>(QFileInfo(rawPath).size() / 2), rawPath))
         return 1;
-    routeDecoderLog();
+    const DecoderLogGuard log;
     const QByteArray hmm = QFile::encodeName(acousticModelPath);
     const QByteArray lm = QFile::encodeName(languageModelPath);
     const QByteArray dict = QFile::encodeName(dictionaryPath);

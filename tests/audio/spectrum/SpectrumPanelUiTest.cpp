@@ -22,7 +22,8 @@ AudioPowerSpectrumInfo courseSpectrum(const QString &voice, const QString &text)
     const PhraseModel model = generatePhraseModel(text, folder.path(), TestPaths::acousticModel());
     EXPECT_TRUE(model.succeeded()) << qPrintable(model.error);
     VoPSRecognizer recognizer;
-    (void)assessWithModel(recognizer, text, voice, model, TestPaths::acousticModel());
+    recognizer.runRecognitionOnWavFileAtPath(voice, model.languageModelPath, model.dictionaryPath,
+                                             TestPaths::acousticModel(), false);
     return recognizer.powerSpectrumInfo();
 }
 

@@ -1,0 +1,265 @@
+#include "ReadingVerifier.h"
+
+#include "SoundSpelling.h"
+#include "content/VoAppCommon.h"
+#include "content/VoLog.h"
+#include "speech/PronunciationList.h"
+#include "speech/SpeechLog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
+#include <random>
+
+namespace {
+
+/// One phone of the grammar: which word, which of its pronunciations, which phone.
+struct PhonePlace {
+    int word{0};
+    int alternate{0};
+    int phone{0};
+};
+
+/// A grammar word stands for one phone at one place, so the alignment's path tells which
+/// pronunciation of which word it took, phone by phone. The phone is part of the name because
+/// the decoder keeps every word it was ever given.
+QString phoneWord(const PhonePlace &place, const QString &phone)
+{
+    return QStringLiteral("w%1_%2_%3_%4")
+        .arg(place.word)
+        .arg(place.alternate)
+        .arg(place.phone)
+        .arg(phone);
+}
+
+std::optional<PhonePlace> placeOf(const QString &word)
+{
+    static const QRegularExpression name(QStringLiteral("^w(\\d+)_(\\d+)_(\\d+)_"));
+    const QRegularExpressionMatch match = name.match(word);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return PhonePlace{match.captured(1).toInt(), match.captured(2).toInt(),
+                      match.captured(3).toInt()};
+}
+
+/// The faint noise of a real room over the recording, so that digital silence reaches the
+/// searches as something they can score. Seeded the same every time: the same recording is
+/// judged the same.
+std::vector<int16_t> dithered(const std::vector<int16_t> &samples)
+{
+    std::minstd_rand noise(1);
+    std::vector<int16_t> out(samples.size());
+    for (size_t i = 0; i < samples.size(); ++i) {
+        const int value = samples[i] + static_cast<int>(noise() % 3) - 1;
+        out[i] = static_cast<int16_t>(std::clamp(value, -32768, 32767));
+    }
+    return out;
+}
+
+/// The free loop's acoustic score spread evenly over each of its segments' frames.
+std::vector<double> scorePerFrame(const QList<AlignedSegment> &segments, int frameCount)
+{
+    std::vector<double> perFrame(static_cast<size_t>(frameCount), 0.0);
+    for (const AlignedSegment &segment : segments) {
+        const double share = static_cast<double>(segment.acousticScore) / segment.frames();
+        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount; ++f)
+            perFrame[static_cast<size_t>(f)] = share;
+    }
+    return perFrame;
+}
+
+WordVerdict verdictFor(double goodness)
+{
+    if (goodness >= ReadingVerifier::heardWellGoodness)
+        return WordVerdict::HeardWell;
+    if (goodness >= ReadingVerifier::missingGoodness)
+        return WordVerdict::Unclear;
+    return WordVerdict::Missing;
+}
+
+QString grammarOf(const QList<QList<QStringList>> &pronunciations)
+{
+    QString rule;
+    for (qsizetype w = 0; w < pronunciations.size(); ++w) {
+        if (pronunciations[w].isEmpty())
+            continue;
+        QStringList alternates;
+        for (qsizetype a = 0; a < pronunciations[w].size(); ++a) {
+            QStringList phones;
+            for (qsizetype p = 0; p < pronunciations[w][a].size(); ++p)
+                phones.append(
+                    phoneWord({static_cast<int>(w), static_cast<int>(a), static_cast<int>(p)},
+                              pronunciations[w][a][p]));
+            alternates.append(phones.join(u' '));
+        }
+        rule += QStringLiteral(" ( %1 )").arg(alternates.join(QStringLiteral(" | ")));
+    }
+    return QStringLiteral("#JSGF V1.0;\ngrammar reading;\npublic <reading> =%1 ;\n").arg(rule);
+}
+
+} // namespace
+
+ReadingVerifier::ReadingVerifier(QString acousticModelPath)
+    : m_acousticModelPath(std::move(acousticModelPath))
+{}
+
+QList<QList<QStringList>> ReadingVerifier::pronunciations(const QStringList &words,
+                                                          const QString &dictionaryPath)
+{
+    if (!m_wholeWords) {
+        m_wholeWords.emplace();
+        const QString path =
+            QDir(m_acousticModelPath).filePath(QLatin1String(wholeWordListFileName));
+        QString error;
+        if (const auto list = readPronunciationDictionary(path, error)) {
+            for (const Pronunciation &entry : *list)
+                (*m_wholeWords)[entry.word].append(entry.phones.split(u' '));
+        } else {
+            VoLog::write(lcSpeech(), VoLog::Error,
+                         QStringLiteral("words with umlauts and ß are not checked: %1").arg(error));
+        }
+    }
+    QHash<QString, QList<QStringList>> phrase;
+    QString error;
+    if (const auto list = readPronunciationDictionary(dictionaryPath, error)) {
+        for (const Pronunciation &entry : *list)
+            phrase[entry.word].append(entry.phones.split(u' '));
+    }
+    QList<QList<QStringList>> found;
+    for (const QString &word : words) {
+        const QString key = word.toUpper();
+        found.append(m_wholeWords->contains(key) ? m_wholeWords->value(key) : phrase.value(key));
+    }
+    return found;
+}
+
+ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString &ipa,
+                                            const QString &dictionaryPath,
+                                            const std::vector<int16_t> &samples)
+{
+    ReadingVerification result;
+    const QStringList words = VoAppCommon::getAllWordFromText(phrase, false);
+    const QList<QList<QStringList>> phones = pronunciations(words, dictionaryPath);
+    if (std::all_of(phones.cbegin(), phones.cend(), [](const auto &p) { return p.isEmpty(); })) {
+        result.note = QStringLiteral("no word of \"%1\" has a pronunciation").arg(phrase);
+        return result;
+    }
+    if (samples.empty()) {
+        result.note = QStringLiteral("the recording holds no samples");
+        return result;
+    }
+    if (!m_decoder)
+        m_decoder = VerificationDecoder::create(m_acousticModelPath, dictionaryPath);
+    if (!m_decoder) {
+        result.note = QStringLiteral("the checking decoder could not start");
+        return result;
+    }
+    for (qsizetype w = 0; w < phones.size(); ++w) {
+        for (qsizetype a = 0; a < phones[w].size(); ++a) {
+            for (qsizetype p = 0; p < phones[w][a].size(); ++p) {
+                const QString &phone = phones[w][a][p];
+                if (!m_decoder->addPhoneWord(
+                        phoneWord({static_cast<int>(w), static_cast<int>(a), static_cast<int>(p)},
+                                  phone),
+                        phone)) {
+                    result.note = QStringLiteral("the phone %1 of \"%2\" is not the model's")
+                                      .arg(phone, words[w]);
+                    return result;
+                }
+            }
+        }
+    }
+
+    const std::vector<int16_t> input = dithered(samples);
+    const std::optional<QList<AlignedSegment>> alignment =
+        m_decoder->align(grammarOf(phones), input);
+    const QList<AlignedSegment> loop = m_decoder->phoneLoop(input);
+    result.succeeded = true;
+    result.aligned = alignment.has_value();
+
+    int frameCount = 0;
+    for (const AlignedSegment &segment : loop)
+        frameCount = std::max(frameCount, segment.endFrame + 1);
+    if (alignment) {
+        for (const AlignedSegment &segment : *alignment)
+            frameCount = std::max(frameCount, segment.endFrame + 1);
+    }
+    const std::vector<double> loopScore = scorePerFrame(loop, frameCount);
+
+    struct WordSum {
+        double difference{0.0};
+        int frames{0};
+        int alternate{-1};
+        int weakestPhone{-1};
+        double weakestGoodness{0.0};
+        int startFrame{-1};
+        int endFrame{-1};
+    };
+    std::vector<WordSum> sums(static_cast<size_t>(words.size()));
+    if (alignment) {
+        for (const AlignedSegment &segment : *alignment) {
+            const std::optional<PhonePlace> place = placeOf(segment.word);
+            if (!place || place->word >= words.size())
+                continue;
+            double loopSum = 0.0;
+            for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount;
+                 ++f)
+                loopSum += loopScore[static_cast<size_t>(f)];
+            const double difference = segment.acousticScore - loopSum;
+            const double goodness = difference / segment.frames();
+            WordSum &sum = sums[static_cast<size_t>(place->word)];
+            sum.difference += difference;
+            sum.frames += segment.frames();
+            sum.alternate = place->alternate;
+            if (sum.startFrame < 0)
+                sum.startFrame = segment.startFrame;
+            sum.endFrame = segment.endFrame;
+            if (sum.weakestPhone < 0 || goodness < sum.weakestGoodness) {
+                sum.weakestPhone = place->phone;
+                sum.weakestGoodness = goodness;
+            }
+        }
+    }
+
+    const QStringList ipaWords =
+        ipa.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+    double totalDifference = 0.0;
+    int totalFrames = 0;
+    for (qsizetype w = 0; w < words.size(); ++w) {
+        WordVerification word;
+        word.word = words[w];
+        const WordSum &sum = sums[static_cast<size_t>(w)];
+        if (phones[w].isEmpty()) {
+            word.judged = false;
+            word.verdict = WordVerdict::Unclear;
+            result.words.append(word);
+            continue;
+        }
+        if (sum.frames == 0) {
+            word.goodness = unalignedGoodness;
+            word.verdict = WordVerdict::Missing;
+        } else {
+            word.goodness = sum.difference / sum.frames;
+            word.verdict = verdictFor(word.goodness);
+            word.startFrame = sum.startFrame;
+            word.endFrame = sum.endFrame;
+            totalDifference += sum.difference;
+            totalFrames += sum.frames;
+        }
+        if (word.verdict != WordVerdict::HeardWell) {
+            const QStringList &spoken = phones[w][std::max(sum.alternate, 0)];
+            // Unaligned, the word's first sound is where it went wrong.
+            const int weakest = std::max(sum.weakestPhone, 0);
+            word.weakestPhone = spoken.value(weakest);
+            word.weakestLetters = SoundSpelling::lettersOfPhones(word.word, spoken).value(weakest);
+            // The transcription names the same words in the same order, unless it was written
+            // otherwise; then its sounds cannot be told apart by word.
+            if (ipaWords.size() == words.size())
+                word.weakestIpa = SoundSpelling::ipaOfPhones(ipaWords[w], spoken).value(weakest);
+        }
+        result.words.append(word);
+    }
+    result.goodness = totalFrames > 0 ? totalDifference / totalFrames : unalignedGoodness;
+    return result;
+}

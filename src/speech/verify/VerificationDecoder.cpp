@@ -1,0 +1,123 @@
+#include "VerificationDecoder.h"
+
+#include "content/VoLog.h"
+#include "speech/DecoderLog.h"
+#include "speech/SpeechLog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr char alignmentSearch[] = "align";
+constexpr char phoneLoopSearch[] = "phones";
+
+} // namespace
+
+std::optional<VerificationDecoder> VerificationDecoder::create(const QString &acousticModelPath,
+                                                               const QString &dictionaryPath)
+{
+    const QString phoneModel =
+        QDir(acousticModelPath).filePath(QLatin1String(phoneLanguageModelFileName));
+    if (!QFileInfo::exists(phoneModel)) {
+        VoLog::write(lcSpeech(), VoLog::Error,
+                     QStringLiteral("no phone model %1 to check readings with").arg(phoneModel));
+        return std::nullopt;
+    }
+    const QByteArray hmm = QFile::encodeName(acousticModelPath);
+    const QByteArray dict = QFile::encodeName(dictionaryPath);
+    const DecoderLogGuard log;
+    // The phone loop's context-independent phones take a quarter of the time of triphones and
+    // judge as well; silence stays in so that frame numbers are the recording's.
+    const sphinx::ConfigPtr config(cmd_ln_init(
+        nullptr, ps_args(), TRUE, "-hmm", hmm.constData(), "-dict", dict.constData(),
+        "-allphone_ci", "yes", "-remove_silence", "no", "-dither", "no", "-bestpath", "no", "-beam",
+        "1e-80", "-pbeam", "1e-80", "-wbeam", "1e-60", "-compallsen", "no", nullptr));
+    if (!config) {
+        VoLog::write(lcSpeech(), VoLog::Error,
+                     QStringLiteral("the checking decoder's options do not parse"));
+        return std::nullopt;
+    }
+    sphinx::DecoderPtr decoder(ps_init(config.get()));
+    if (!decoder || ps_set_allphone_file(decoder.get(), phoneLoopSearch,
+                                         QFile::encodeName(phoneModel).constData()) < 0) {
+        VoLog::write(lcSpeech(), VoLog::Error,
+                     QStringLiteral("the checking decoder could not start with the acoustic "
+                                    "model %1 and the dictionary %2")
+                         .arg(acousticModelPath, dictionaryPath));
+        return std::nullopt;
+    }
+    return VerificationDecoder(std::move(decoder));
+}
+
+VerificationDecoder::VerificationDecoder(sphinx::DecoderPtr decoder)
+    : m_decoder(std::move(decoder))
+{}
+
+bool VerificationDecoder::addPhoneWord(const QString &word, const QString &phone)
+{
+    if (m_words.contains(word))
+        return true;
+    if (ps_add_word(m_decoder.get(), word.toUtf8().constData(), phone.toUtf8().constData(), FALSE) <
+        0)
+        return false;
+    m_words.append(word);
+    return true;
+}
+
+std::optional<QList<AlignedSegment>> VerificationDecoder::align(const QString &grammar,
+                                                                const std::vector<int16_t> &samples)
+{
+    if (grammar != m_grammar) {
+        m_grammar.clear();
+        if (ps_set_jsgf_string(m_decoder.get(), alignmentSearch, grammar.toUtf8().constData()) <
+            0) {
+            VoLog::write(lcSpeech(), VoLog::Error,
+                         QStringLiteral("the phrase's alignment grammar was refused"));
+            return std::nullopt;
+        }
+        m_grammar = grammar;
+    }
+    if (!decode(alignmentSearch, samples))
+        return std::nullopt;
+    int32 score = 0;
+    if (!ps_get_hyp(m_decoder.get(), &score))
+        return std::nullopt;
+    return segments();
+}
+
+QList<AlignedSegment> VerificationDecoder::phoneLoop(const std::vector<int16_t> &samples)
+{
+    if (!decode(phoneLoopSearch, samples))
+        return {};
+    return segments();
+}
+
+bool VerificationDecoder::decode(const char *search, const std::vector<int16_t> &samples)
+{
+    if (ps_set_search(m_decoder.get(), search) < 0 || ps_start_utt(m_decoder.get()) < 0)
+        return false;
+    // The whole recording at once, so that the batch normalisation sees all of it.
+    const int frames = ps_process_raw(m_decoder.get(), samples.data(), samples.size(), FALSE, TRUE);
+    return ps_end_utt(m_decoder.get()) >= 0 && frames > 0;
+}
+
+QList<AlignedSegment> VerificationDecoder::segments()
+{
+    QList<AlignedSegment> found;
+    // The iterator frees itself when ps_seg_next() runs past the last segment.
+    for (ps_seg_t *segment = ps_seg_iter(m_decoder.get()); segment;
+         segment = ps_seg_next(segment)) {
+        AlignedSegment aligned;
+        aligned.word = QString::fromUtf8(ps_seg_word(segment));
+        ps_seg_frames(segment, &aligned.startFrame, &aligned.endFrame);
+        int32 acoustic = 0;
+        int32 language = 0;
+        int32 backoff = 0;
+        ps_seg_prob(segment, &acoustic, &language, &backoff);
+        aligned.acousticScore = acoustic;
+        found.append(aligned);
+    }
+    return found;
+}

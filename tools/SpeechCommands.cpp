@@ -48,6 +48,68 @@ QJsonObject wordJson(const QVariantMap &word)
     return json;
 }
 
+/// The check as a table: one row per word, its verdict, goodness, frames and weakest sound.
+void printVerification(const CommandLine &command, const ReadingVerification &check)
+{
+    if (!check.succeeded) {
+        command.out << "check: not made (" << check.note << ")\n";
+        return;
+    }
+    command.out << "check: goodness " << QString::number(check.goodness, 'f', 1)
+                << (check.aligned ? "" : ", the phrase's sounds could not be aligned") << '\n';
+    command.out << QStringLiteral("%1 %2 %3 %4 %5\n")
+                       .arg(QStringLiteral("word"), -16)
+                       .arg(QStringLiteral("verdict"), -11)
+                       .arg(QStringLiteral("goodness"), 9)
+                       .arg(QStringLiteral("frames"), -10)
+                       .arg(QStringLiteral("weakest sound"));
+    for (const WordVerification &word : check.words) {
+        const QString frames =
+            word.startFrame < 0 ? QStringLiteral("-")
+                                : QStringLiteral("%1-%2").arg(word.startFrame).arg(word.endFrame);
+        QString weakest;
+        if (!word.weakestPhone.isEmpty())
+            weakest = QStringLiteral("\"%1\" /%2/ (%3)")
+                          .arg(word.weakestLetters, word.weakestIpa, word.weakestPhone);
+        command.out
+            << QStringLiteral("%1 %2 %3 %4 %5\n")
+                   .arg(word.word, -16)
+                   .arg(word.judged ? verdictName(word.verdict) : QStringLiteral("not judged"), -11)
+                   .arg(word.judged ? QString::number(word.goodness, 'f', 1) : QStringLiteral("-"),
+                        9)
+                   .arg(frames, -10)
+                   .arg(weakest)
+                   .trimmed()
+            << '\n';
+    }
+}
+
+QJsonObject verificationJson(const ReadingVerification &check)
+{
+    QJsonArray words;
+    for (const WordVerification &word : check.words) {
+        QJsonObject json{{QStringLiteral("word"), word.word},
+                         {QStringLiteral("judged"), word.judged},
+                         {QStringLiteral("verdict"), verdictName(word.verdict)},
+                         {QStringLiteral("goodness"), word.goodness},
+                         {QStringLiteral("startFrame"), word.startFrame},
+                         {QStringLiteral("endFrame"), word.endFrame}};
+        if (!word.weakestPhone.isEmpty())
+            json.insert(QStringLiteral("weakestSound"),
+                        QJsonObject{{QStringLiteral("phone"), word.weakestPhone},
+                                    {QStringLiteral("ipa"), word.weakestIpa},
+                                    {QStringLiteral("letters"), word.weakestLetters}});
+        words.append(json);
+    }
+    QJsonObject json{{QStringLiteral("checked"), check.succeeded},
+                     {QStringLiteral("aligned"), check.aligned},
+                     {QStringLiteral("goodness"), check.goodness},
+                     {QStringLiteral("words"), words}};
+    if (!check.succeeded)
+        json.insert(QStringLiteral("note"), check.note);
+    return json;
+}
+
 void printAssessment(const CommandLine &command, const PhraseAssessment &assessment)
 {
     command.out << "hypothesis: " << assessment.hypothesis << '\n';
@@ -63,14 +125,7 @@ void printAssessment(const CommandLine &command, const PhraseAssessment &assessm
     command.out << "mark: " << assessment.mark << "/10\n";
     for (auto advice = assessment.advices.cbegin(); advice != assessment.advices.cend(); ++advice)
         command.out << "advice " << advice.key() << ": " << advice.value().toString() << '\n';
-    const ReadingVerification &check = assessment.verification;
-    command.out << "check: " << (check.succeeded ? QStringLiteral("made") : check.note)
-                << " aligned " << check.aligned << " goodness " << check.goodness << '\n';
-    for (const WordVerification &word : check.words)
-        command.out << "  " << word.word << '\t' << verdictName(word.verdict) << '\t'
-                    << word.goodness << '\t' << word.startFrame << '-' << word.endFrame << '\t'
-                    << word.weakestPhone << ' ' << word.weakestIpa << ' ' << word.weakestLetters
-                    << '\n';
+    printVerification(command, assessment.verification);
 }
 
 void printAssessmentJson(const CommandLine &command, const PhraseAssessment &assessment)
@@ -86,6 +141,7 @@ void printAssessmentJson(const CommandLine &command, const PhraseAssessment &ass
         {QStringLiteral("score"), shortestFloatText(assessment.score).toDouble()},
         {QStringLiteral("mark"), assessment.mark},
         {QStringLiteral("advice"), QJsonObject::fromVariantMap(assessment.advices)},
+        {QStringLiteral("verification"), verificationJson(assessment.verification)},
     };
     command.out << QJsonDocument(json).toJson(QJsonDocument::Compact) << '\n';
 }

@@ -163,7 +163,8 @@ BasePage {
             text: qsTr("Submit")
             font.pixelSize: 18 * page.textScale
             focusPolicy: Qt.NoFocus
-            enabled: !microphoneButton.held
+            // Waits for the mark of the reading just made.
+            enabled: !microphoneButton.held && !controller.markPending
             onClicked: controller.submitAction()
         }
     }

@@ -58,20 +58,27 @@ void Phrase2SpeakVC::endRecordAction()
     const int question = currIndex();
     connect(comparison.get(), &SpectrumCompView::scoreChanged, this,
             [this, question, view = comparison.get()] {
-                if (question == currIndex() && !finished() &&
-                    m_comparisons.at(static_cast<std::size_t>(question)).get() == view)
-                    setCurrWordScore(std::clamp(view->score(), 0, maxMark));
+                if (question != currIndex() || finished() ||
+                    m_comparisons.at(static_cast<std::size_t>(question)).get() != view)
+                    return;
+                setCurrWordScore(std::clamp(view->score(), 0, maxMark));
+                Q_EMIT markPendingChanged();
             });
+    // Queued: the pop-up's close is still running in the comparison when it is dropped.
+    connect(
+        comparison.get(), &SpectrumCompView::closed, this,
+        [this, view = comparison.get()] { dropPendingComparison(view); }, Qt::QueuedConnection);
     // The pop-up moves to the new comparison before the one it replaces goes.
     const std::shared_ptr<SpectrumCompView> previous =
         std::exchange(m_comparisons.at(static_cast<std::size_t>(question)), comparison);
     setShown(comparison.get());
+    Q_EMIT markPendingChanged();
     Q_EMIT comparisonShown();
 }
 
 void Phrase2SpeakVC::submitAction()
 {
-    if (finished() || !hasQuestions())
+    if (finished() || !hasQuestions() || markPending())
         return;
     m_marks.at(static_cast<std::size_t>(currIndex())) = m_currWordScore;
     checkCurrentAnswer();
@@ -82,6 +89,32 @@ void Phrase2SpeakVC::showCurrentQuestion()
 {
     setCurrText(foreignText(*phraseInfos().at(currIndex())));
     setShown(nullptr);
+    Q_EMIT markPendingChanged();
+}
+
+bool Phrase2SpeakVC::markPending() const
+{
+    if (finished() || !hasQuestions() || currIndex() >= static_cast<int>(m_comparisons.size()))
+        return false;
+    const std::shared_ptr<SpectrumCompView> &current =
+        m_comparisons.at(static_cast<std::size_t>(currIndex()));
+    return current && !current->scored();
+}
+
+void Phrase2SpeakVC::dropPendingComparison(SpectrumCompView *comparison)
+{
+    if (finished() || !hasQuestions())
+        return;
+    std::shared_ptr<SpectrumCompView> &current =
+        m_comparisons.at(static_cast<std::size_t>(currIndex()));
+    if (current.get() != comparison || comparison->scored())
+        return;
+    inputPhraseInfos().at(currIndex())->soundPath.clear();
+    setCurrWordScore(0);
+    // The pop-up lets go of the comparison before it goes.
+    setShown(nullptr);
+    current.reset();
+    Q_EMIT markPendingChanged();
 }
 
 void Phrase2SpeakVC::finishQuiz()

@@ -26,6 +26,8 @@ class Phrase2SpeakVC : public BaseQuizViewController {
     Q_PROPERTY(
         SpectrumCompView *spectrumCompView READ spectrumCompView NOTIFY spectrumCompViewChanged)
     Q_PROPERTY(int currWordScore READ currWordScore NOTIFY currWordScoreChanged)
+    /// True while the current question's reading is being compared: Submit waits for its mark.
+    Q_PROPERTY(bool markPending READ markPending NOTIFY markPendingChanged)
     /// "Tap and hold to speak." until the first recording of the screen, then empty.
     Q_PROPERTY(QString tipText READ tipText NOTIFY tipTextChanged)
 
@@ -40,7 +42,7 @@ public:
     Q_INVOKABLE void beginRecordAction();
     /// The microphone button is released: stops and compares.
     Q_INVOKABLE void endRecordAction();
-    /// Adds the current mark to the score and moves on.
+    /// Adds the current mark to the score and moves on; nothing while the mark is pending.
     void submitAction() override;
     /// Shows a result row's comparison again, as last made; nothing for a question never
     /// recorded.
@@ -55,6 +57,7 @@ public:
     [[nodiscard]] MicrophonePermission *permission() { return &m_permission; }
     [[nodiscard]] SpectrumCompView *spectrumCompView() const { return m_shown; }
     [[nodiscard]] int currWordScore() const { return m_currWordScore; }
+    [[nodiscard]] bool markPending() const;
     [[nodiscard]] QString tipText() const;
     [[nodiscard]] const QString &myVoicePath() const { return m_audioRecorder.path(); }
 
@@ -63,6 +66,7 @@ Q_SIGNALS:
     /// A comparison is to be shown in the pop-up: after a recording, or from a result row.
     void comparisonShown();
     void currWordScoreChanged();
+    void markPendingChanged();
     void tipTextChanged();
 
 protected:
@@ -73,6 +77,9 @@ protected:
 private:
     void setCurrWordScore(int score);
     void setShown(SpectrumCompView *comparison);
+    /// The current question's comparison, closed before its mark came: the attempt is dropped
+    /// and the question is left as if it had not been read.
+    void dropPendingComparison(SpectrumCompView *comparison);
 
     PhraseRecording m_audioRecorder;
     MicrophonePermission m_permission;

@@ -156,6 +156,7 @@ void SpectrumCompView::closeAction()
 {
     m_standardSpectrumPanel.stopPlay();
     m_estimatedSpectrumPanel.stopPlay();
+    Q_EMIT closed();
 }
 
 QString SpectrumCompView::scoreStyledText() const

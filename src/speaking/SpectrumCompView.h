@@ -103,6 +103,8 @@ Q_SIGNALS:
     void errorTextChanged();
     /// Both recognitions are done (or failed): busy has just turned false.
     void compared();
+    /// The pop-up showing this comparison was closed.
+    void closed();
 
 private:
     void setBusy(bool busy);

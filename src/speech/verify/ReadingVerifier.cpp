@@ -247,10 +247,10 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
             totalDifference += sum.difference;
             totalFrames += sum.frames;
         }
-        if (word.verdict != WordVerdict::HeardWell) {
-            const QStringList &spoken = phones[w][std::max(sum.alternate, 0)];
-            // Unaligned, the word's first sound is where it went wrong.
-            const int weakest = std::max(sum.weakestPhone, 0);
+        // An unaligned word has no sound that scored.
+        if (word.verdict != WordVerdict::HeardWell && sum.weakestPhone >= 0) {
+            const QStringList &spoken = phones[w][sum.alternate];
+            const int weakest = sum.weakestPhone;
             word.weakestPhone = spoken.value(weakest);
             word.weakestLetters = SoundSpelling::lettersOfPhones(word.word, spoken).value(weakest);
             // The transcription names the same words in the same order, unless it was written
@@ -261,5 +261,18 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         result.words.append(word);
     }
     result.goodness = totalFrames > 0 ? totalDifference / totalFrames : unalignedGoodness;
+    QStringList verdicts;
+    for (const WordVerification &word : result.words)
+        verdicts.append(QStringLiteral("%1 %2 (%3)")
+                            .arg(word.word, verdictName(word.verdict))
+                            .arg(word.goodness, 0, 'f', 1));
+    VoLog::write(lcSpeech(), VoLog::Progress,
+                 QStringLiteral("\n checked the reading of \"%1\" over %2 frames: goodness %3%4; "
+                                "%5")
+                     .arg(phrase)
+                     .arg(frameCount)
+                     .arg(result.goodness, 0, 'f', 1)
+                     .arg(result.aligned ? QString() : QStringLiteral(", not aligned"),
+                          verdicts.join(QStringLiteral(", "))));
     return result;
 }

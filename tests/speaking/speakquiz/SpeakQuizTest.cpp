@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -169,6 +170,49 @@ TEST_F(SpeakQuizTest, SubmittedMarksMakeTheScoreAndTheLastSubmitEndsTheSession)
     EXPECT_EQ(read->score(), firstMark);
 }
 
+TEST_F(SpeakQuizTest, SubmitWaitsForTheMarkAndAComparisonClosedBeforeItLeavesTheQuestionUnread)
+{
+    Phrase2SpeakVC quiz(random);
+    start(quiz, 3);
+    const auto release = [&] {
+        input.setFile(modelVoice(quiz));
+        const int heard = input.delivered();
+        quiz.beginRecordAction();
+        EXPECT_TRUE(input.waitDelivered(heard + 1));
+        quiz.endRecordAction();
+        return quiz.spectrumCompView();
+    };
+    SpectrumCompView *first = release();
+    ASSERT_NE(first, nullptr);
+    EXPECT_TRUE(quiz.markPending());
+    quiz.submitAction();
+    EXPECT_EQ(quiz.currIndex(), 0) << "Submit waits for the mark";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !quiz.markPending(); }, 120000));
+    EXPECT_TRUE(first->scored());
+    const int mark = quiz.currWordScore();
+    EXPECT_GT(mark, 0);
+    quiz.submitAction();
+    EXPECT_EQ(quiz.score(), mark);
+
+    // Read, then the pop-up closed (Escape) before the mark came: no reading is kept, and the
+    // mark that comes later goes nowhere.
+    SpectrumCompView *closed = release();
+    ASSERT_NE(closed, nullptr);
+    closed->closeAction();
+    QSignalSpy pending(&quiz, &Phrase2SpeakVC::markPendingChanged);
+    ASSERT_TRUE(pending.wait(5000));
+    EXPECT_FALSE(quiz.markPending());
+    EXPECT_EQ(quiz.spectrumCompView(), nullptr);
+    EXPECT_TRUE(quiz.inputPhraseInfos().at(1)->soundPath.isEmpty());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return closed->scored(); }, 120000));
+    EXPECT_EQ(quiz.currWordScore(), 0);
+    quiz.submitAction();
+    quiz.submitAction();
+    ASSERT_TRUE(quiz.finished());
+    EXPECT_EQ(quiz.score(), mark);
+    EXPECT_FALSE(quiz.hasVoiceprint(1));
+}
+
 TEST_F(SpeakQuizTest, ARecordingThatCannotBeMadeScoresZeroAndTheQuizGoesOn)
 {
     Phrase2SpeakVC quiz(random);
@@ -184,6 +228,7 @@ TEST_F(SpeakQuizTest, ARecordingThatCannotBeMadeScoresZeroAndTheQuizGoesOn)
     EXPECT_FALSE(quiz.recording()->errorText().isEmpty());
     quiz.endRecordAction();
     EXPECT_EQ(quiz.currWordScore(), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !quiz.markPending(); }, 120000));
     quiz.submitAction();
     EXPECT_EQ(quiz.score(), 0);
     EXPECT_EQ(quiz.currIndex(), 1);

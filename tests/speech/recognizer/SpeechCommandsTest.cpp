@@ -3,6 +3,7 @@
 #include "tools/CliRunner.h"
 
 #include <QImage>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -87,7 +88,14 @@ TEST(AssessCommand, JsonCarriesScoreMarkAndAdvice)
     const double score = json.value(u"score"_s).toDouble(-1.0);
     EXPECT_GT(score, 0.0);
     EXPECT_LE(score, 100.0);
-    EXPECT_EQ(json.value(u"mark"_s).toInt(-1), static_cast<int>(std::floor(score / 10.0)));
+    // The check heard both words: the mark is at least the recogniser's.
+    EXPECT_GE(json.value(u"mark"_s).toInt(-1), static_cast<int>(std::floor(score / 10.0)));
+    const QJsonObject check = json.value(u"verification"_s).toObject();
+    EXPECT_TRUE(check.value(u"checked"_s).toBool());
+    const QJsonArray words = check.value(u"words"_s).toArray();
+    ASSERT_EQ(words.size(), 2);
+    EXPECT_EQ(words[1].toObject().value(u"word"_s).toString(), u"Morgen"_s);
+    EXPECT_NE(words[1].toObject().value(u"verdict"_s).toString(), u"missing"_s);
     EXPECT_TRUE(json.value(u"advice"_s).toObject().contains(u"words_score"_s));
     EXPECT_EQ(json.value(u"hypothesis"_s).toString(), u"GUTEN MORGEN"_s);
 

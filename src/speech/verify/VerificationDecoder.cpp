@@ -71,8 +71,15 @@ std::optional<QList<AlignedSegment>> VerificationDecoder::align(const QString &g
 {
     if (grammar != m_grammar) {
         m_grammar.clear();
-        if (ps_set_jsgf_string(m_decoder.get(), alignmentSearch, grammar.toUtf8().constData()) <
-            0) {
+        // Parsed here rather than by ps_set_jsgf_string(), which never frees the parsed grammar.
+        const QByteArray text = grammar.toUtf8();
+        const sphinx::JsgfPtr parsed(jsgf_parse_string(text.constData(), nullptr));
+        jsgf_rule_t *rule = parsed ? jsgf_get_public_rule(parsed.get()) : nullptr;
+        const sphinx::FsgModelPtr model(
+            rule ? jsgf_build_fsg(parsed.get(), rule, ps_get_logmath(m_decoder.get()),
+                                  cmd_ln_float32_r(ps_get_config(m_decoder.get()), "-lw"))
+                 : nullptr);
+        if (!model || ps_set_fsg(m_decoder.get(), alignmentSearch, model.get()) < 0) {
             VoLog::write(lcSpeech(), VoLog::Error,
                          QStringLiteral("the phrase's alignment grammar was refused"));
             return std::nullopt;

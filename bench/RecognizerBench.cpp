@@ -1,6 +1,8 @@
+#include "audio/VoAudioUtil.h"
 #include "speech/LogPowerSpectrum.h"
 #include "speech/VoLanguageModelTrainer.h"
 #include "speech/VoPSRecognizer.h"
+#include "speech/verify/ReadingVerifier.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
@@ -53,7 +55,31 @@ void BM_RecognizeThreeSecondPhrase(benchmark::State &state)
 }
 BENCHMARK(BM_RecognizeThreeSecondPhrase)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// The fixed part of the above: reading the acoustic model and the phrase's model.
+// The check of the same reading, on its own: the alignment and the phone loop, with the
+// checking decoder kept from one reading to the next as the speech worker keeps it.
+void BM_CheckThreeSecondPhrase(benchmark::State &state)
+{
+    PhraseModel model;
+    AudioDataInfo audio;
+    if (!model.generate() || VoAudioUtil::decodeAudioDataFromFile(phraseVoice, audio) != 0) {
+        state.SkipWithError("no model: build the course and the acoustic model folder first");
+        return;
+    }
+    const std::vector<int16_t> samples = VoAudioUtil::getAudioDataShortForByte(audio);
+    ReadingVerifier verifier(acousticModel);
+    for (auto _ : state) {
+        const ReadingVerification check =
+            verifier.verify(phraseText, {}, model.dictionaryPath, samples);
+        if (!check.aligned) {
+            state.SkipWithError("the phrase could not be aligned");
+            return;
+        }
+        benchmark::DoNotOptimize(check.goodness);
+    }
+}
+BENCHMARK(BM_CheckThreeSecondPhrase)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The fixed part of the recognition: reading the acoustic model and the phrase's model.
 void BM_StartDecoder(benchmark::State &state)
 {
     PhraseModel model;

@@ -6,8 +6,7 @@ int runAcousticCommand(const CommandLine &command)
     if (command.arguments.value(0) != QLatin1String("build"))
         return command.fail(QStringLiteral("acoustic needs the sub-command build"));
     const QStringList options{QStringLiteral("--course"), QStringLiteral("--model"),
-                              QStringLiteral("--dict"), QStringLiteral("--phones"),
-                              QStringLiteral("--phone-lm")};
+                              QStringLiteral("--dict"), QStringLiteral("--phones")};
     const ParsedArguments parsed = ParsedArguments::parse(command.arguments.mid(1), options);
     if (!parsed.error.isEmpty())
         return command.fail(parsed.error);
@@ -19,8 +18,7 @@ int runAcousticCommand(const CommandLine &command)
         return command.fail(QStringLiteral("acoustic build needs one output folder"));
 
     AcousticModelBuilder builder({parsed.values.value(options[0]), parsed.values.value(options[1]),
-                                  parsed.values.value(options[2]), parsed.values.value(options[3]),
-                                  parsed.values.value(options[4])},
+                                  parsed.values.value(options[2]), parsed.values.value(options[3])},
                                  parsed.positional.first());
     if (!builder.build())
         return command.fail(builder.error());

@@ -159,15 +159,11 @@ bool AcousticModelBuilder::copyModelFiles()
     const QStringList files = model.entryList(QDir::Files, QDir::Name);
     if (files.isEmpty())
         return fail(QStringLiteral("no model files in %1").arg(m_sources.modelFolder));
-    QStringList sources;
-    for (const QString &file : files)
-        sources.append(model.filePath(file));
-    sources.append(m_sources.phoneLanguageModelPath);
-    for (const QString &source : sources) {
-        const std::optional<QByteArray> bytes = VoFileUtil::readFile(source);
+    for (const QString &file : files) {
+        const std::optional<QByteArray> bytes = VoFileUtil::readFile(model.filePath(file));
         if (!bytes)
-            return fail(QStringLiteral("cannot read %1").arg(source));
-        const QString target = QDir(m_outputFolder).filePath(QFileInfo(source).fileName());
+            return fail(QStringLiteral("cannot read %1").arg(model.filePath(file)));
+        const QString target = QDir(m_outputFolder).filePath(file);
         if (!VoFileUtil::writeFileAtomically(target, *bytes))
             return fail(QStringLiteral("cannot write %1").arg(target));
     }

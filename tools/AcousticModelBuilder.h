@@ -13,17 +13,15 @@ class GermanPronouncer;
  * the words being those of the recogniser's split. It is sorted for the generator's
  * forward-only scan (see sortForLookup). Beside it, the whole-word list gives the course's
  * words that the recogniser's split cuts ("Brötchen") their German pronunciation, for the check
- * of a reading, and the phone loop's language model is copied in. Equal inputs give a
- * byte-identical folder.
+ * of a reading. Equal inputs give a byte-identical folder.
  */
 class AcousticModelBuilder {
 public:
     struct Sources {
-        QString courseFolder;           ///< the course as the app reads it (resources.bundle)
-        QString modelFolder;            ///< the acoustic model: mdef, means, variances, ...
-        QString dictionaryPath;         ///< "word phones" lines, alternates as word(2)
-        QString phoneTablePath;         ///< espeak-ng phoneme to model phones
-        QString phoneLanguageModelPath; ///< the phone loop's language model, copied as it is
+        QString courseFolder;   ///< the course as the app reads it (resources.bundle)
+        QString modelFolder;    ///< the acoustic model: mdef, means, variances, ...
+        QString dictionaryPath; ///< "word phones" lines, alternates as word(2)
+        QString phoneTablePath; ///< espeak-ng phoneme to model phones
     };
 
     AcousticModelBuilder(Sources sources, QString outputFolder);

@@ -9,6 +9,9 @@ Rectangle {
     id: cell
 
     property string srcText
+    // What the top line shows: the phrase, or a styled form of it, and what a screen reader says.
+    property string srcShownText: srcText
+    property string srcAccessibleName: srcText
     property string rightText
     property bool rightTextShown: true
     property string testText
@@ -35,7 +38,8 @@ Rectangle {
     ThirdLabel {
         objectName: "srcTextLbl"
         y: 0
-        text: cell.srcText
+        text: cell.srcShownText
+        Accessible.name: cell.srcAccessibleName
         color: AppColors.text
     }
     ThirdLabel {

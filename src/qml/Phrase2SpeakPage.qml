@@ -194,6 +194,8 @@ BasePage {
             testText: controller.markText(index)
             testTextColor: AppColors.text
             voiceprintShown: controller.hasVoiceprint(index)
+            wordsText: controller.wordsText(index)
+            wordsAccessibleText: controller.wordsAccessibleText(index)
             onTapped: controller.playClickedItem(index)
             onShowSpectrums: controller.showSpectrums(index)
         }

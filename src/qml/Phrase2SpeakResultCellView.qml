@@ -2,12 +2,18 @@ import QtQuick
 import QtQuick.Controls
 import Tolvane
 
-// One question of a finished speaking quiz: the phrase, its translation and the mark the
-// learner's reading earned, with "Show Voiceprint" to see that reading's comparison again.
+// One question of a finished speaking quiz: the phrase, its words coloured by how the reading
+// was heard, its translation and the mark the learner's reading earned, with "Show Voiceprint" to see that reading's comparison again.
 CommonResultCellView {
     id: cell
 
     property bool voiceprintShown: true
+    // The phrase with its words coloured by the reading's check, and the verdicts in words.
+    property string wordsText
+    property string wordsAccessibleText
+
+    srcShownText: wordsText !== "" ? wordsText : srcText
+    srcAccessibleName: wordsAccessibleText !== "" ? wordsAccessibleText : srcText
 
     signal showSpectrums()
 

@@ -4,8 +4,9 @@ import QtQuick.Layouts
 import Tolvane
 
 // The model speaker's recording of a phrase above the learner's, each as a spectrum with its
-// own player bar, then the learner's score, the phrase's translation and, when the comparison
-// could not be made, why. The opener fills the comparison, sets the size and opens the pop-up;
+// own player bar, then the learner's score, the phrase with its words coloured by how they were
+// heard and a tip for the weakest, the phrase's translation and, when the comparison could not
+// be made, why. The opener fills the comparison, sets the size and opens the pop-up;
 // closing it, by the button or Escape, stops both players.
 VoPopView {
     id: popUp
@@ -75,6 +76,29 @@ VoPopView {
                 visible: popUp.comparison.testedWordScoreVisible
                          && popUp.comparison.scored
                 text: popUp.comparison.scoreStyledText
+            }
+
+            // The phrase with each word in the colour of how it was heard, and what to work on.
+            VoLabel {
+                objectName: "wordsLbl"
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                textFormat: Text.StyledText
+                font.pixelSize: 18
+                font.bold: true
+                visible: text !== ""
+                text: popUp.comparison.wordsText
+                Accessible.name: popUp.comparison.wordsAccessibleText
+            }
+
+            VoLabel {
+                objectName: "readingTipLbl"
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                font.pixelSize: 14
+                color: AppColors.secondaryText
+                visible: text !== ""
+                text: popUp.comparison.tipText
             }
 
             VoLabel {

@@ -25,7 +25,9 @@ Item {
         x: view.asMargin
         y: view.asMargin
         width: view.width - 2 * view.asMargin
-        height: view.asHeight
+        // The strip gives way when the panel is squeezed, so that the bar stays inside it.
+        height: Math.max(0, Math.min(view.asHeight,
+                                     view.height - 3 * view.asMargin - view.barHeight))
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         flickableDirection: Flickable.HorizontalFlick

@@ -155,6 +155,19 @@ bool Phrase2SpeakVC::hasVoiceprint(int row) const
            m_comparisons.at(static_cast<std::size_t>(row)) != nullptr;
 }
 
+QString Phrase2SpeakVC::wordsText(int row) const
+{
+    return hasVoiceprint(row) ? m_comparisons.at(static_cast<std::size_t>(row))->wordsText()
+                              : QString();
+}
+
+QString Phrase2SpeakVC::wordsAccessibleText(int row) const
+{
+    return hasVoiceprint(row)
+               ? m_comparisons.at(static_cast<std::size_t>(row))->wordsAccessibleText()
+               : QString();
+}
+
 QString Phrase2SpeakVC::tipText() const
 {
     return m_tipShown ? tr("Tap and hold to speak.") : QString();

@@ -50,6 +50,10 @@ public:
     /// A result row's mark as "7/10", "-" for a question not submitted.
     [[nodiscard]] Q_INVOKABLE QString markText(int row) const;
     [[nodiscard]] Q_INVOKABLE bool hasVoiceprint(int row) const;
+    /// A result row's phrase with its words coloured by the last reading's check, and the
+    /// verdicts in words; empty for a question whose reading was not checked.
+    [[nodiscard]] Q_INVOKABLE QString wordsText(int row) const;
+    [[nodiscard]] Q_INVOKABLE QString wordsAccessibleText(int row) const;
     /// For leaving the screen: the recorder stops too.
     void viewWillDisappear() override;
 

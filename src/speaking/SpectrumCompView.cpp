@@ -1,6 +1,7 @@
 #include "SpectrumCompView.h"
 
 #include "ComparisonSteps.h"
+#include "ReadingFeedback.h"
 #include "SpeechWorker.h"
 #include "app/AppPaths.h"
 #include "app/Preferences.h"
@@ -55,6 +56,7 @@ void SpectrumCompView::runComparison()
     m_score = 0;
     m_scored = false;
     m_advices.clear();
+    m_verification = {};
     Q_EMIT scoreChanged();
     setErrorText({});
     setBusy(true);
@@ -92,6 +94,7 @@ void SpectrumCompView::showEstimated(const QString &recordingPath,
         m_estimatedSpectrumPanel.setSpectrum(recordingPath, comparison.spectrum);
         m_score = comparison.assessment.mark;
         m_advices = comparison.assessment.advices;
+        m_verification = comparison.assessment.verification;
         if (m_advices.contains(QStringLiteral("no_voice")))
             setErrorText(tr("No voice was heard in your recording."));
         break;
@@ -162,6 +165,21 @@ void SpectrumCompView::closeAction()
 QString SpectrumCompView::scoreStyledText() const
 {
     return ScoreText::styled(tr("Score"), m_score, 10, true);
+}
+
+QString SpectrumCompView::wordsText() const
+{
+    return ReadingFeedback::colouredPhrase(m_standardText, m_verification);
+}
+
+QString SpectrumCompView::wordsAccessibleText() const
+{
+    return ReadingFeedback::spokenVerdicts(m_verification);
+}
+
+QString SpectrumCompView::tipText() const
+{
+    return ReadingFeedback::tip(m_verification);
 }
 
 QColor SpectrumCompView::scoreColor() const

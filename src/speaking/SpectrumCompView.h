@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/VoSpectrumPanel.h"
+#include "speech/verify/ReadingVerification.h"
 
 #include <QColor>
 #include <QObject>
@@ -48,6 +49,13 @@ class SpectrumCompView : public QObject {
                    setTestedWordScoreVisible NOTIFY testedWordScoreVisibleChanged)
     /// True from runComparison() until both recordings are recognised.
     Q_PROPERTY(bool busy READ busy NOTIFY busyChanged)
+    /// The phrase with each word in the colour of its verdict (styled text); empty until the
+    /// learner's reading is checked.
+    Q_PROPERTY(QString wordsText READ wordsText NOTIFY scoreChanged)
+    /// The verdicts in words, for screen readers.
+    Q_PROPERTY(QString wordsAccessibleText READ wordsAccessibleText NOTIFY scoreChanged)
+    /// One line on the word that went worst; empty when every word was heard well.
+    Q_PROPERTY(QString tipText READ tipText NOTIFY scoreChanged)
     /// Why the comparison could not be made, for the learner; empty when it could.
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
 
@@ -91,6 +99,11 @@ public:
     void setTestedWordScoreVisible(bool visible);
     [[nodiscard]] bool busy() const { return m_busy; }
     [[nodiscard]] const QString &errorText() const { return m_errorText; }
+    [[nodiscard]] QString wordsText() const;
+    [[nodiscard]] QString wordsAccessibleText() const;
+    [[nodiscard]] QString tipText() const;
+    /// The acoustic check of the learner's reading; not succeeded until it is in.
+    [[nodiscard]] const ReadingVerification &verification() const { return m_verification; }
     /// The scorer's advices on the learner's recording ("no_voice", "words_score", ...).
     [[nodiscard]] const QVariantMap &advices() const { return m_advices; }
 
@@ -131,4 +144,5 @@ private:
     bool m_busy{false};
     QString m_errorText;
     QVariantMap m_advices;
+    ReadingVerification m_verification;
 };

@@ -42,7 +42,7 @@ int mark(float score, const ReadingVerification &verification)
     if (verification.count(WordVerdict::Missing) == judged)
         return 0;
     const int combined = std::max(recognized, verifiedMark(verification));
-    const bool fewHeard = 4 * verification.count(WordVerdict::HeardWell) < 3 * judged;
+    const bool fewHeard = 10 * verification.count(WordVerdict::HeardWell) < 9 * judged;
     if (fewHeard && verification.goodness < phraseGoodness)
         return std::min(combined, notThePhraseMost);
     return combined;

@@ -10,7 +10,7 @@
  *   heard well as 1 and each unclear word as 1/2, out of the judged words, times 10, rounded
  *   down. The learner gets the higher of the two.
  * - A reading that is not the phrase gets at most 2: one that the phrase's sounds could not be
- *   aligned to at all, or one in which fewer than three quarters of the judged words were heard
+ *   aligned to at all, or one in which fewer than nine in ten of the judged words were heard
  *   well while the phrase as a whole fitted worse than `phraseGoodness`. One in which every
  *   judged word is missing gets 0.
  * - Without a check (it failed, or no word could be judged), the recogniser's mark stands.
@@ -22,7 +22,7 @@ namespace ReadingMark {
 
 inline constexpr int notThePhraseMost = 2;
 /// The whole reading's goodness below which it may not be the phrase at all.
-inline constexpr double phraseGoodness = -30.0;
+inline constexpr double phraseGoodness = -12.0;
 
 /// floor(score / 10), 0..10; a score outside 0..100 or not a number is fatal (the scorer keeps
 /// within it).

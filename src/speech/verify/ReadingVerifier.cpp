@@ -10,7 +10,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
+#include <future>
 #include <random>
+#include <system_error>
 
 namespace {
 
@@ -55,6 +57,16 @@ std::vector<int16_t> dithered(const std::vector<int16_t> &samples)
         out[i] = static_cast<int16_t>(std::clamp(value, -32768, 32767));
     }
     return out;
+}
+
+/// work() on a thread of its own, or in line when no thread can be had.
+template <typename Work> auto runBeside(Work work) -> std::future<decltype(work())>
+{
+    try {
+        return std::async(std::launch::async, std::move(work));
+    } catch (const std::system_error &) {
+        return std::async(std::launch::deferred, std::move(work));
+    }
 }
 
 /// The free loop's acoustic score spread evenly over each of its segments' frames.
@@ -149,9 +161,11 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         result.note = QStringLiteral("the recording holds no samples");
         return result;
     }
-    if (!m_decoder)
-        m_decoder = VerificationDecoder::create(m_acousticModelPath, dictionaryPath);
-    if (!m_decoder) {
+    if (!m_aligner)
+        m_aligner = VerificationDecoder::create(m_acousticModelPath, dictionaryPath);
+    if (!m_loop)
+        m_loop = VerificationDecoder::create(m_acousticModelPath, dictionaryPath);
+    if (!m_aligner || !m_loop) {
         result.note = QStringLiteral("the checking decoder could not start");
         return result;
     }
@@ -159,7 +173,7 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         for (qsizetype a = 0; a < phones[w].size(); ++a) {
             for (qsizetype p = 0; p < phones[w][a].size(); ++p) {
                 const QString &phone = phones[w][a][p];
-                if (!m_decoder->addPhoneWord(
+                if (!m_aligner->addPhoneWord(
                         phoneWord({static_cast<int>(w), static_cast<int>(a), static_cast<int>(p)},
                                   phone),
                         phone)) {
@@ -172,9 +186,13 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
     }
 
     const std::vector<int16_t> input = dithered(samples);
+    // The loop costs three times the alignment: it runs on a thread of its own while the
+    // alignment runs here.
+    std::future<QList<AlignedSegment>> loopDone =
+        runBeside([this, &input] { return m_loop->phoneLoop(input); });
     const std::optional<QList<AlignedSegment>> alignment =
-        m_decoder->align(grammarOf(phones), input);
-    const QList<AlignedSegment> loop = m_decoder->phoneLoop(input);
+        m_aligner->align(grammarOf(phones), input);
+    const QList<AlignedSegment> loop = loopDone.get();
     result.succeeded = true;
     result.aligned = alignment.has_value();
 
@@ -199,14 +217,14 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
     std::vector<WordSum> sums(static_cast<size_t>(words.size()));
     if (alignment) {
         for (const AlignedSegment &segment : *alignment) {
-            const std::optional<PhonePlace> place = placeOf(segment.word);
-            if (!place || place->word >= words.size())
-                continue;
             double loopSum = 0.0;
             for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount;
                  ++f)
                 loopSum += loopScore[static_cast<size_t>(f)];
             const double difference = segment.acousticScore - loopSum;
+            const std::optional<PhonePlace> place = placeOf(segment.word);
+            if (!place || place->word >= words.size())
+                continue;
             const double goodness = difference / segment.frames();
             WordSum &sum = sums[static_cast<size_t>(place->word)];
             sum.difference += difference;

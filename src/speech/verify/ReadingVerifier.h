@@ -22,15 +22,16 @@
  *
  * Words are the quizzes' split, so umlauts and ß count: they take their pronunciation from the
  * acoustic folder's whole-word list, the others from the phrase's generated dictionary. A
- * verifier keeps its decoder for the next reading; use it from one thread at a time.
+ * verifier keeps its two decoders (the alignment's and the loop's, which run at the same time)
+ * for the next reading; use it from one thread at a time.
  */
 class ReadingVerifier {
 public:
     /// Goodness at and above which a word was heard well, and below which it is missing.
     /// Set from the course's model recordings judged against their own phrases and others' (see
     /// the quality table in bench/RESULTS.md).
-    static constexpr double heardWellGoodness = -40.0;
-    static constexpr double missingGoodness = -80.0;
+    static constexpr double heardWellGoodness = -25.0;
+    static constexpr double missingGoodness = -60.0;
     /// What an unaligned word's goodness reads: well below anything an aligned word gets.
     static constexpr double unalignedGoodness = -100.0;
     /// The acoustic folder's pronunciations of the course's words the recogniser cannot split
@@ -54,5 +55,6 @@ private:
 
     QString m_acousticModelPath;
     std::optional<QHash<QString, QList<QStringList>>> m_wholeWords;
-    std::optional<VerificationDecoder> m_decoder;
+    std::optional<VerificationDecoder> m_aligner;
+    std::optional<VerificationDecoder> m_loop;
 };

@@ -4,44 +4,41 @@
 #include "speech/DecoderLog.h"
 #include "speech/SpeechLog.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 
 constexpr char alignmentSearch[] = "align";
 constexpr char phoneLoopSearch[] = "phones";
 
+/// The base phones of the English model, silence aside.
+constexpr const char *modelPhones[] = {"AA", "AE", "AH", "AO", "AW", "AY", "B",  "CH", "D",  "DH",
+                                       "EH", "ER", "EY", "F",  "G",  "HH", "IH", "IY", "JH", "K",
+                                       "L",  "M",  "N",  "NG", "OW", "OY", "P",  "R",  "S",  "SH",
+                                       "T",  "TH", "UH", "UW", "V",  "W",  "Y",  "Z",  "ZH"};
+
 } // namespace
 
 std::optional<VerificationDecoder> VerificationDecoder::create(const QString &acousticModelPath,
                                                                const QString &dictionaryPath)
 {
-    const QString phoneModel =
-        QDir(acousticModelPath).filePath(QLatin1String(phoneLanguageModelFileName));
-    if (!QFileInfo::exists(phoneModel)) {
-        VoLog::write(lcSpeech(), VoLog::Error,
-                     QStringLiteral("no phone model %1 to check readings with").arg(phoneModel));
-        return std::nullopt;
-    }
     const QByteArray hmm = QFile::encodeName(acousticModelPath);
     const QByteArray dict = QFile::encodeName(dictionaryPath);
     const DecoderLogGuard log;
-    // The phone loop's context-independent phones take a quarter of the time of triphones and
-    // judge as well; silence stays in so that frame numbers are the recording's.
-    const sphinx::ConfigPtr config(cmd_ln_init(
-        nullptr, ps_args(), TRUE, "-hmm", hmm.constData(), "-dict", dict.constData(),
-        "-allphone_ci", "yes", "-remove_silence", "no", "-dither", "no", "-bestpath", "no", "-beam",
-        "1e-80", "-pbeam", "1e-80", "-wbeam", "1e-60", "-compallsen", "no", nullptr));
+    // Silence stays in so that frame numbers are the recording's. The beams are narrower than
+    // the recogniser's: a phrase whose sounds are not in the recording loses every path, which
+    // is itself the clearest verdict.
+    const sphinx::ConfigPtr config(cmd_ln_init(nullptr, ps_args(), TRUE, "-hmm", hmm.constData(),
+                                               "-dict", dict.constData(), "-remove_silence", "no",
+                                               "-dither", "no", "-bestpath", "no", "-beam", "1e-80",
+                                               "-pbeam", "1e-80", "-wbeam", "1e-60", nullptr));
     if (!config) {
         VoLog::write(lcSpeech(), VoLog::Error,
                      QStringLiteral("the checking decoder's options do not parse"));
         return std::nullopt;
     }
     sphinx::DecoderPtr decoder(ps_init(config.get()));
-    if (!decoder || ps_set_allphone_file(decoder.get(), phoneLoopSearch,
-                                         QFile::encodeName(phoneModel).constData()) < 0) {
+    if (!decoder) {
         VoLog::write(lcSpeech(), VoLog::Error,
                      QStringLiteral("the checking decoder could not start with the acoustic "
                                     "model %1 and the dictionary %2")
@@ -49,6 +46,39 @@ std::optional<VerificationDecoder> VerificationDecoder::create(const QString &ac
         return std::nullopt;
     }
     return VerificationDecoder(std::move(decoder));
+}
+
+bool VerificationDecoder::setGrammar(const char *search, const QString &grammar)
+{
+    // Parsed here rather than by ps_set_jsgf_string(), which never frees the parsed grammar.
+    const QByteArray text = grammar.toUtf8();
+    const sphinx::JsgfPtr parsed(jsgf_parse_string(text.constData(), nullptr));
+    jsgf_rule_t *rule = parsed ? jsgf_get_public_rule(parsed.get()) : nullptr;
+    const sphinx::FsgModelPtr model(
+        rule ? jsgf_build_fsg(parsed.get(), rule, ps_get_logmath(m_decoder.get()),
+                              cmd_ln_float32_r(ps_get_config(m_decoder.get()), "-lw"))
+             : nullptr);
+    if (!model || ps_set_fsg(m_decoder.get(), search, model.get()) < 0) {
+        VoLog::write(
+            lcSpeech(), VoLog::Error,
+            QStringLiteral("the grammar of the %1 search was refused").arg(QLatin1String(search)));
+        return false;
+    }
+    return true;
+}
+
+bool VerificationDecoder::setUpPhoneLoop()
+{
+    QStringList words;
+    for (const char *phone : modelPhones) {
+        const QString word = QStringLiteral("loop_") + QLatin1String(phone);
+        if (!addPhoneWord(word, QLatin1String(phone)))
+            return false;
+        words.append(word);
+    }
+    return setGrammar(phoneLoopSearch,
+                      QStringLiteral("#JSGF V1.0;\ngrammar loop;\npublic <loop> = ( %1 )+ ;\n")
+                          .arg(words.join(QStringLiteral(" | "))));
 }
 
 VerificationDecoder::VerificationDecoder(sphinx::DecoderPtr decoder)
@@ -71,19 +101,8 @@ std::optional<QList<AlignedSegment>> VerificationDecoder::align(const QString &g
 {
     if (grammar != m_grammar) {
         m_grammar.clear();
-        // Parsed here rather than by ps_set_jsgf_string(), which never frees the parsed grammar.
-        const QByteArray text = grammar.toUtf8();
-        const sphinx::JsgfPtr parsed(jsgf_parse_string(text.constData(), nullptr));
-        jsgf_rule_t *rule = parsed ? jsgf_get_public_rule(parsed.get()) : nullptr;
-        const sphinx::FsgModelPtr model(
-            rule ? jsgf_build_fsg(parsed.get(), rule, ps_get_logmath(m_decoder.get()),
-                                  cmd_ln_float32_r(ps_get_config(m_decoder.get()), "-lw"))
-                 : nullptr);
-        if (!model || ps_set_fsg(m_decoder.get(), alignmentSearch, model.get()) < 0) {
-            VoLog::write(lcSpeech(), VoLog::Error,
-                         QStringLiteral("the phrase's alignment grammar was refused"));
+        if (!setGrammar(alignmentSearch, grammar))
             return std::nullopt;
-        }
         m_grammar = grammar;
     }
     if (!decode(alignmentSearch, samples))
@@ -96,7 +115,9 @@ std::optional<QList<AlignedSegment>> VerificationDecoder::align(const QString &g
 
 QList<AlignedSegment> VerificationDecoder::phoneLoop(const std::vector<int16_t> &samples)
 {
-    if (!decode(phoneLoopSearch, samples))
+    if (!m_loopReady)
+        m_loopReady = setUpPhoneLoop();
+    if (!m_loopReady || !decode(phoneLoopSearch, samples))
         return {};
     return segments();
 }

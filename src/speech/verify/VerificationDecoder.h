@@ -9,9 +9,6 @@
 #include <optional>
 #include <vector>
 
-/// The phone loop's language model, which the acoustic folder ships beside the model.
-inline constexpr char phoneLanguageModelFileName[] = "en-us-phone.lm.bin";
-
 /// @brief One segment a search put in its best path: a dictionary word over inclusive frames.
 struct AlignedSegment {
     QString word;
@@ -24,8 +21,12 @@ struct AlignedSegment {
 };
 
 /**
- * @brief The decoder that checks a reading: a forced alignment of the phrase's phones and a free
- * phone loop over the same samples, in one decoder with two searches.
+ * @brief A decoder that checks readings: a forced alignment of a phrase's phones, or a free loop
+ * of any phones, over a recording, each a grammar search set up once and kept.
+ *
+ * The loop is a grammar too, rather than the library's phone-loop search: that search scores
+ * each frame against the best path so far, so its segments' scores cannot be set against the
+ * alignment's; two searches of one kind can, frame by frame.
  *
  * Made once per phrase model and kept for its recordings: loading the acoustic model is most of
  * a decoder's start. Its front end has no dither (the caller adds its own, so that runs on
@@ -34,8 +35,7 @@ struct AlignedSegment {
  */
 class VerificationDecoder {
 public:
-    /// Null, logged, when the acoustic folder lacks the model, its dictionary or the phone
-    /// loop's language model.
+    /// Null, logged, when the acoustic model or the dictionary cannot be read.
     [[nodiscard]] static std::optional<VerificationDecoder> create(const QString &acousticModelPath,
                                                                    const QString &dictionaryPath);
 
@@ -49,10 +49,13 @@ public:
 
 private:
     explicit VerificationDecoder(sphinx::DecoderPtr decoder);
+    [[nodiscard]] bool setGrammar(const char *search, const QString &grammar);
+    [[nodiscard]] bool setUpPhoneLoop();
     [[nodiscard]] bool decode(const char *search, const std::vector<int16_t> &samples);
     [[nodiscard]] QList<AlignedSegment> segments();
 
     sphinx::DecoderPtr m_decoder;
     QString m_grammar;
+    bool m_loopReady{false};
     QStringList m_words;
 };

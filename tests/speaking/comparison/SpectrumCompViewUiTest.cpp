@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(SpectrumCompViewUiTest, ThePopUpShowsBothSpectraAndTheMarkAndClosingStopsThePlayers)
+TEST(SpectrumCompViewUiTest, ThePopUpShowsBothSpectraTheMarkAndTheWordsAndClosingStopsThePlayers)
 {
     AppWindow app;
     SpectrumCompView comparison;
@@ -17,6 +17,8 @@ TEST(SpectrumCompViewUiTest, ThePopUpShowsBothSpectraAndTheMarkAndClosingStopsTh
     ASSERT_TRUE(phrase);
     comparison.setPhrase(*phrase);
     comparison.setEstimatedAudioFilePath(comparison.standardAudioFilePath());
+    // "Guten Abend!" read, one more word asked for: that word is not heard.
+    comparison.setStandardText(u"Guten Abend, Anna!"_s);
 
     const std::unique_ptr<QObject> popUp = app.createView(
         u"SpectrumCompViewPopup.qml"_s, {{u"comparison"_s, QVariant::fromValue(&comparison)}});
@@ -43,6 +45,13 @@ TEST(SpectrumCompViewUiTest, ThePopUpShowsBothSpectraAndTheMarkAndClosingStopsTh
         ASSERT_TRUE(item) << qPrintable(name);
         EXPECT_GT(item->height(), 0) << qPrintable(name);
     }
+    const QString words = findItem(root, u"wordsLbl"_s)->property("text").toString();
+    EXPECT_TRUE(words.startsWith(u"<font color=\"#2e8b57\">Guten</font> "_s)) << qPrintable(words);
+    EXPECT_TRUE(words.endsWith(u"<font color=\"#b0171f\">Anna</font>!"_s)) << qPrintable(words);
+    EXPECT_TRUE(comparison.wordsAccessibleText().endsWith(u"Anna: missing"_s));
+    QQuickItem *tip = findItem(root, u"readingTipLbl"_s);
+    EXPECT_TRUE(tip->isVisible());
+    EXPECT_TRUE(tip->property("text").toString().contains(u"\"Anna\""_s));
     const QImage shot = app.screenshot(u"spectrum-comparison"_s);
     EXPECT_FALSE(shot.isNull());
 

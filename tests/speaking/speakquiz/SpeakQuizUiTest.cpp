@@ -93,6 +93,13 @@ TEST_F(SpeakQuizUiTest, ReadsPhrasesAloudByMouseAndSpaceBarToTheResults)
     SpectrumCompView *first = quiz->spectrumCompView();
     ASSERT_TRUE(waitCompared(first));
     EXPECT_EQ(quiz->currWordScore(), first->score());
+    // Under the mark, the phrase's words in the colours of their verdicts, named for a screen
+    // reader.
+    QQuickItem *words = findItem(app.window()->contentItem(), u"wordsLbl"_s);
+    EXPECT_TRUE(words->isVisible());
+    EXPECT_TRUE(words->property("text").toString().contains(u"<font color="_s));
+    EXPECT_TRUE(first->wordsAccessibleText().contains(u"heard well"_s))
+        << qPrintable(first->wordsAccessibleText());
     QTest::qWait(300);
     (void)app.screenshot(u"speak-quiz-comparison"_s);
     closePopup();
@@ -127,6 +134,7 @@ TEST_F(SpeakQuizUiTest, ReadsPhrasesAloudByMouseAndSpaceBarToTheResults)
     QQuickItem *row = AppWindow::listRow(table, 0);
     EXPECT_EQ(findItem(row, u"testTextLbl"_s)->property("text").toString(),
               u"%1/10"_s.arg(first->score()));
+    EXPECT_EQ(findItem(row, u"srcTextLbl"_s)->property("text").toString(), first->wordsText());
     EXPECT_FALSE(findItem(AppWindow::listRow(table, 2), u"showVoiceprintButton"_s)->isVisible());
     (void)app.screenshot(u"speak-quiz-results"_s);
 
@@ -164,6 +172,7 @@ TEST_F(SpeakQuizUiTest, CardsCompareAReadingWithoutAMark)
     EXPECT_FALSE(findItem(overlay, u"testedWordScoreLbl"_s)->isVisible())
         << "the cards show no mark";
     EXPECT_TRUE(findItem(overlay, u"estimatedSpectrumPanel"_s)->isVisible());
+    EXPECT_TRUE(findItem(overlay, u"wordsLbl"_s)->isVisible()) << "the words are coloured";
     (void)app.screenshot(u"phrase-card-comparison"_s);
     closePopup();
 

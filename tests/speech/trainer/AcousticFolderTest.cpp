@@ -33,12 +33,11 @@ QStringList courseWords()
 
 QStringList buildArguments(const QString &phoneTable, const QString &output)
 {
-    return {u"acoustic"_s,   u"build"_s,
-            u"--course"_s,   TestPaths::course(),
-            u"--model"_s,    QStringLiteral(TOLVANE_ACOUSTIC_SOURCES),
-            u"--dict"_s,     QStringLiteral(TOLVANE_ENGLISH_DICTIONARY),
-            u"--phones"_s,   phoneTable,
-            u"--phone-lm"_s, QStringLiteral(TOLVANE_PHONE_LM),
+    return {u"acoustic"_s, u"build"_s,
+            u"--course"_s, TestPaths::course(),
+            u"--model"_s,  QStringLiteral(TOLVANE_ACOUSTIC_SOURCES),
+            u"--dict"_s,   QStringLiteral(TOLVANE_ENGLISH_DICTIONARY),
+            u"--phones"_s, phoneTable,
             output};
 }
 
@@ -158,7 +157,7 @@ TEST(AcousticFolder, RejectsBadToolInput)
     ASSERT_TRUE(VoFileUtil::writeFileAtomically(scratch.filePath(u"mdef"_s), "BMDF\1"));
     expectOneLineFailure(runCli(otherModel), u"not a binary model definition"_s);
 
-    expectOneLineFailure(runCli(buildArguments(phoneTable(), output).mid(0, 12)),
+    expectOneLineFailure(runCli(buildArguments(phoneTable(), output).mid(0, 10)),
                          u"one output folder"_s);
     expectOneLineFailure(runCli({u"acoustic"_s, u"build"_s, output}), u"--course"_s);
     EXPECT_FALSE(QFileInfo::exists(output));

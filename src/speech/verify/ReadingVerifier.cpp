@@ -90,6 +90,114 @@ WordVerdict verdictFor(double goodness)
     return WordVerdict::Missing;
 }
 
+/// One word's aligned phones summed up.
+struct WordSum {
+    /// Alignment minus loop, over the word's frames.
+    double difference{0.0};
+    int frames{0};
+    /// The pronunciation the alignment took, and its phone that fitted worst.
+    int alternate{-1};
+    int weakestPhone{-1};
+    double weakestGoodness{0.0};
+    int startFrame{-1};
+    int endFrame{-1};
+};
+
+std::vector<WordSum> sumByWord(const QList<AlignedSegment> &alignment,
+                               const std::vector<double> &loopScore, qsizetype wordCount)
+{
+    std::vector<WordSum> sums(static_cast<size_t>(wordCount));
+    const auto frameCount = static_cast<int>(loopScore.size());
+    for (const AlignedSegment &segment : alignment) {
+        const std::optional<PhonePlace> place = placeOf(segment.word);
+        if (!place || place->word >= wordCount)
+            continue;
+        double loopSum = 0.0;
+        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount; ++f)
+            loopSum += loopScore[static_cast<size_t>(f)];
+        const double difference = segment.acousticScore - loopSum;
+        const double goodness = difference / segment.frames();
+        WordSum &sum = sums[static_cast<size_t>(place->word)];
+        sum.difference += difference;
+        sum.frames += segment.frames();
+        sum.alternate = place->alternate;
+        if (sum.startFrame < 0)
+            sum.startFrame = segment.startFrame;
+        sum.endFrame = segment.endFrame;
+        if (sum.weakestPhone < 0 || goodness < sum.weakestGoodness) {
+            sum.weakestPhone = place->phone;
+            sum.weakestGoodness = goodness;
+        }
+    }
+    return sums;
+}
+
+WordVerification judgedWord(const QString &text, const QList<QStringList> &pronunciations,
+                            const WordSum &sum, const QString &ipaWord)
+{
+    WordVerification word;
+    word.word = text;
+    if (pronunciations.isEmpty()) {
+        word.judged = false;
+        word.verdict = WordVerdict::Unclear;
+        return word;
+    }
+    if (sum.frames == 0) {
+        word.goodness = ReadingVerifier::unalignedGoodness;
+        word.verdict = WordVerdict::Missing;
+        // An unaligned word has no sound that scored.
+        return word;
+    }
+    word.goodness = sum.difference / sum.frames;
+    word.verdict = verdictFor(word.goodness);
+    word.startFrame = sum.startFrame;
+    word.endFrame = sum.endFrame;
+    if (word.verdict != WordVerdict::HeardWell) {
+        const QStringList &spoken = pronunciations[sum.alternate];
+        word.weakestPhone = spoken.value(sum.weakestPhone);
+        word.weakestLetters = SoundSpelling::lettersOfPhones(text, spoken).value(sum.weakestPhone);
+        if (!ipaWord.isEmpty())
+            word.weakestIpa = SoundSpelling::ipaOfPhones(ipaWord, spoken).value(sum.weakestPhone);
+    }
+    return word;
+}
+
+void logCheck(const QString &phrase, int frameCount, const ReadingVerification &check)
+{
+    QStringList verdicts;
+    for (const WordVerification &word : check.words)
+        verdicts.append(QStringLiteral("%1 %2 (%3)")
+                            .arg(word.word, verdictName(word.verdict))
+                            .arg(word.goodness, 0, 'f', 1));
+    VoLog::write(lcSpeech(), VoLog::Progress,
+                 QStringLiteral("\n checked the reading of \"%1\" over %2 frames: goodness %3%4; "
+                                "%5")
+                     .arg(phrase)
+                     .arg(frameCount)
+                     .arg(check.goodness, 0, 'f', 1)
+                     .arg(check.aligned ? QString() : QStringLiteral(", not aligned"),
+                          verdicts.join(QStringLiteral(", "))));
+}
+
+/// Gives the aligner a word for every phone of every pronunciation; what went wrong, if anything.
+QString addPhoneWords(VerificationDecoder &aligner, const QStringList &words,
+                      const QList<QList<QStringList>> &pronunciations)
+{
+    for (qsizetype w = 0; w < pronunciations.size(); ++w) {
+        for (qsizetype a = 0; a < pronunciations[w].size(); ++a) {
+            for (qsizetype p = 0; p < pronunciations[w][a].size(); ++p) {
+                const QString &phone = pronunciations[w][a][p];
+                const PhonePlace place{static_cast<int>(w), static_cast<int>(a),
+                                       static_cast<int>(p)};
+                if (!aligner.addPhoneWord(phoneWord(place, phone), phone))
+                    return QStringLiteral("the phone %1 of \"%2\" is not the model's")
+                        .arg(phone, words[w]);
+            }
+        }
+    }
+    return {};
+}
+
 QString grammarOf(const QList<QList<QStringList>> &pronunciations)
 {
     QString rule;
@@ -169,20 +277,9 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         result.note = QStringLiteral("the checking decoder could not start");
         return result;
     }
-    for (qsizetype w = 0; w < phones.size(); ++w) {
-        for (qsizetype a = 0; a < phones[w].size(); ++a) {
-            for (qsizetype p = 0; p < phones[w][a].size(); ++p) {
-                const QString &phone = phones[w][a][p];
-                if (!m_aligner->addPhoneWord(
-                        phoneWord({static_cast<int>(w), static_cast<int>(a), static_cast<int>(p)},
-                                  phone),
-                        phone)) {
-                    result.note = QStringLiteral("the phone %1 of \"%2\" is not the model's")
-                                      .arg(phone, words[w]);
-                    return result;
-                }
-            }
-        }
+    if (const QString refused = addPhoneWords(*m_aligner, words, phones); !refused.isEmpty()) {
+        result.note = refused;
+        return result;
     }
 
     const std::vector<int16_t> input = dithered(samples);
@@ -203,94 +300,26 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         for (const AlignedSegment &segment : *alignment)
             frameCount = std::max(frameCount, segment.endFrame + 1);
     }
-    const std::vector<double> loopScore = scorePerFrame(loop, frameCount);
-
-    struct WordSum {
-        double difference{0.0};
-        int frames{0};
-        int alternate{-1};
-        int weakestPhone{-1};
-        double weakestGoodness{0.0};
-        int startFrame{-1};
-        int endFrame{-1};
-    };
-    std::vector<WordSum> sums(static_cast<size_t>(words.size()));
-    if (alignment) {
-        for (const AlignedSegment &segment : *alignment) {
-            double loopSum = 0.0;
-            for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount;
-                 ++f)
-                loopSum += loopScore[static_cast<size_t>(f)];
-            const double difference = segment.acousticScore - loopSum;
-            const std::optional<PhonePlace> place = placeOf(segment.word);
-            if (!place || place->word >= words.size())
-                continue;
-            const double goodness = difference / segment.frames();
-            WordSum &sum = sums[static_cast<size_t>(place->word)];
-            sum.difference += difference;
-            sum.frames += segment.frames();
-            sum.alternate = place->alternate;
-            if (sum.startFrame < 0)
-                sum.startFrame = segment.startFrame;
-            sum.endFrame = segment.endFrame;
-            if (sum.weakestPhone < 0 || goodness < sum.weakestGoodness) {
-                sum.weakestPhone = place->phone;
-                sum.weakestGoodness = goodness;
-            }
-        }
-    }
+    const std::vector<WordSum> sums =
+        alignment ? sumByWord(*alignment, scorePerFrame(loop, frameCount), words.size())
+                  : std::vector<WordSum>(static_cast<size_t>(words.size()));
 
     const QStringList ipaWords =
         ipa.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
     double totalDifference = 0.0;
     int totalFrames = 0;
     for (qsizetype w = 0; w < words.size(); ++w) {
-        WordVerification word;
-        word.word = words[w];
         const WordSum &sum = sums[static_cast<size_t>(w)];
-        if (phones[w].isEmpty()) {
-            word.judged = false;
-            word.verdict = WordVerdict::Unclear;
-            result.words.append(word);
-            continue;
-        }
-        if (sum.frames == 0) {
-            word.goodness = unalignedGoodness;
-            word.verdict = WordVerdict::Missing;
-        } else {
-            word.goodness = sum.difference / sum.frames;
-            word.verdict = verdictFor(word.goodness);
-            word.startFrame = sum.startFrame;
-            word.endFrame = sum.endFrame;
+        // The transcription names the same words in the same order, unless it was written
+        // otherwise; then its sounds cannot be told apart by word.
+        result.words.append(judgedWord(words[w], phones[w], sum,
+                                       ipaWords.size() == words.size() ? ipaWords[w] : QString()));
+        if (!phones[w].isEmpty()) {
             totalDifference += sum.difference;
             totalFrames += sum.frames;
         }
-        // An unaligned word has no sound that scored.
-        if (word.verdict != WordVerdict::HeardWell && sum.weakestPhone >= 0) {
-            const QStringList &spoken = phones[w][sum.alternate];
-            const int weakest = sum.weakestPhone;
-            word.weakestPhone = spoken.value(weakest);
-            word.weakestLetters = SoundSpelling::lettersOfPhones(word.word, spoken).value(weakest);
-            // The transcription names the same words in the same order, unless it was written
-            // otherwise; then its sounds cannot be told apart by word.
-            if (ipaWords.size() == words.size())
-                word.weakestIpa = SoundSpelling::ipaOfPhones(ipaWords[w], spoken).value(weakest);
-        }
-        result.words.append(word);
     }
     result.goodness = totalFrames > 0 ? totalDifference / totalFrames : unalignedGoodness;
-    QStringList verdicts;
-    for (const WordVerification &word : result.words)
-        verdicts.append(QStringLiteral("%1 %2 (%3)")
-                            .arg(word.word, verdictName(word.verdict))
-                            .arg(word.goodness, 0, 'f', 1));
-    VoLog::write(lcSpeech(), VoLog::Progress,
-                 QStringLiteral("\n checked the reading of \"%1\" over %2 frames: goodness %3%4; "
-                                "%5")
-                     .arg(phrase)
-                     .arg(frameCount)
-                     .arg(result.goodness, 0, 'f', 1)
-                     .arg(result.aligned ? QString() : QStringLiteral(", not aligned"),
-                          verdicts.join(QStringLiteral(", "))));
+    logCheck(phrase, frameCount, result);
     return result;
 }

@@ -22,21 +22,23 @@ ReadingVerification checked(std::initializer_list<WordVerdict> verdicts, double 
 constexpr auto well = WordVerdict::HeardWell;
 constexpr auto unclear = WordVerdict::Unclear;
 constexpr auto missing = WordVerdict::Missing;
+constexpr double fittedWell = ReadingMark::phraseGoodness + 5.0;
+constexpr double fittedBadly = ReadingMark::phraseGoodness - 5.0;
 
 } // namespace
 
 TEST(ReadingMark, WordsHeardWellRaiseTheMarkAndNeverLowerIt)
 {
     // Four words: 3 heard well and 1 unclear are 3.5 of 4, 8 of 10 rounded down.
-    EXPECT_EQ(ReadingMark::mark(0.0F, checked({well, well, well, unclear}, -5.0)), 8);
+    EXPECT_EQ(ReadingMark::mark(0.0F, checked({well, well, well, unclear}, fittedWell)), 8);
     // The recogniser's mark stands when it is the higher.
-    EXPECT_EQ(ReadingMark::mark(95.0F, checked({well, well, well, unclear}, -5.0)), 9);
+    EXPECT_EQ(ReadingMark::mark(95.0F, checked({well, well, well, unclear}, fittedWell)), 9);
 
     // Raising any one word's verdict, one step at a time, never lowers the mark, whatever the
     // recogniser said and however well the whole fitted.
     const WordVerdict order[] = {missing, unclear, well};
     for (const float score : {0.0F, 35.0F, 99.0F}) {
-        for (const double goodness : {-5.0, -60.0}) {
+        for (const double goodness : {fittedWell, fittedBadly}) {
             for (int a = 0; a < 3; ++a) {
                 for (int b = 0; b < 3; ++b) {
                     for (int c = 0; c + 1 < 3; ++c) {
@@ -55,15 +57,15 @@ TEST(ReadingMark, WordsHeardWellRaiseTheMarkAndNeverLowerIt)
 TEST(ReadingMark, SpeechThatIsNotThePhraseGetsAtMostTwo)
 {
     // The recogniser found most of the phrase's words in something else.
-    EXPECT_EQ(ReadingMark::mark(90.0F, checked({well, unclear, missing, missing}, -45.0)), 2);
+    EXPECT_EQ(ReadingMark::mark(90.0F, checked({well, unclear, missing, missing}, fittedBadly)), 2);
     ReadingVerification unaligned = checked({missing, missing}, -100.0);
     unaligned.aligned = false;
     EXPECT_EQ(ReadingMark::mark(90.0F, unaligned), 2);
     EXPECT_EQ(ReadingMark::mark(10.0F, unaligned), 1);
     // Every word missing: nothing of the phrase was said.
-    EXPECT_EQ(ReadingMark::mark(70.0F, checked({missing, missing, missing}, -25.0)), 0);
+    EXPECT_EQ(ReadingMark::mark(70.0F, checked({missing, missing, missing}, fittedWell)), 0);
     // A phrase that fitted well as a whole is not held down for a few unclear words.
-    EXPECT_EQ(ReadingMark::mark(0.0F, checked({well, unclear, unclear, unclear}, -20.0)), 6);
+    EXPECT_EQ(ReadingMark::mark(0.0F, checked({well, unclear, unclear, unclear}, fittedWell)), 6);
 }
 
 TEST(ReadingMark, WithoutACheckTheRecognisersMarkStands)
@@ -75,5 +77,5 @@ TEST(ReadingMark, WithoutACheckTheRecognisersMarkStands)
     ReadingVerification unjudged = checked({missing}, -100.0);
     unjudged.words[0].judged = false;
     EXPECT_EQ(ReadingMark::mark(100.0F, unjudged), 10);
-    EXPECT_EQ(ReadingMark::mark(100.0F, checked({well, missing}, -10.0)), 10);
+    EXPECT_EQ(ReadingMark::mark(100.0F, checked({well, missing}, fittedWell)), 10);
 }

@@ -74,7 +74,7 @@ void printVerification(const CommandLine &command, const ReadingVerification &ch
         command.out
             << QStringLiteral("%1 %2 %3 %4 %5\n")
                    .arg(word.word, -16)
-                   .arg(word.judged ? verdictName(word.verdict) : QStringLiteral("not judged"), -11)
+                   .arg(QLatin1String(word.judged ? verdictName(word.verdict) : "not judged"), -11)
                    .arg(word.judged ? QString::number(word.goodness, 'f', 1) : QStringLiteral("-"),
                         9)
                    .arg(frames, -10)
@@ -90,7 +90,7 @@ QJsonObject verificationJson(const ReadingVerification &check)
     for (const WordVerification &word : check.words) {
         QJsonObject json{{QStringLiteral("word"), word.word},
                          {QStringLiteral("judged"), word.judged},
-                         {QStringLiteral("verdict"), verdictName(word.verdict)},
+                         {QStringLiteral("verdict"), QLatin1String(verdictName(word.verdict))},
                          {QStringLiteral("goodness"), word.goodness},
                          {QStringLiteral("startFrame"), word.startFrame},
                          {QStringLiteral("endFrame"), word.endFrame}};

@@ -14,17 +14,8 @@ QString translated(const char *text)
 
 QString verdictText(const WordVerification &word)
 {
-    if (!word.judged)
-        return translated("not judged");
-    switch (word.verdict) {
-    case WordVerdict::HeardWell:
-        return translated("heard well");
-    case WordVerdict::Unclear:
-        return translated("unclear");
-    case WordVerdict::Missing:
-        break;
-    }
-    return translated("missing");
+    return translated(word.judged ? verdictName(word.verdict)
+                                  : QT_TRANSLATE_NOOP("ReadingFeedback", "not judged"));
 }
 
 /// The judged word that went worst: missing before unclear, then the lower goodness.

@@ -1,5 +1,6 @@
 #include "ReadingVerification.h"
 
+#include <QtGlobal>
 #include <algorithm>
 
 int ReadingVerification::count(WordVerdict verdict) const
@@ -15,15 +16,15 @@ int ReadingVerification::judgedWords() const
         std::count_if(words.cbegin(), words.cend(), [](const auto &w) { return w.judged; }));
 }
 
-QString verdictName(WordVerdict verdict)
+const char *verdictName(WordVerdict verdict)
 {
     switch (verdict) {
     case WordVerdict::HeardWell:
-        return QStringLiteral("heard well");
+        return QT_TRANSLATE_NOOP("ReadingFeedback", "heard well");
     case WordVerdict::Unclear:
-        return QStringLiteral("unclear");
+        return QT_TRANSLATE_NOOP("ReadingFeedback", "unclear");
     case WordVerdict::Missing:
         break;
     }
-    return QStringLiteral("missing");
+    return QT_TRANSLATE_NOOP("ReadingFeedback", "missing");
 }

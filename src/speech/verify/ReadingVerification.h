@@ -48,5 +48,6 @@ struct ReadingVerification {
     [[nodiscard]] int judgedWords() const;
 };
 
-/// "heard well", "unclear", "missing": for tables, JSON and accessible names.
-[[nodiscard]] QString verdictName(WordVerdict verdict);
+/// "heard well", "unclear", "missing": in English for tables and JSON, and the key of the
+/// learner's translation.
+[[nodiscard]] const char *verdictName(WordVerdict verdict);

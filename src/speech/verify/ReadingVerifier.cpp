@@ -167,7 +167,7 @@ void logCheck(const QString &phrase, int frameCount, const ReadingVerification &
     QStringList verdicts;
     for (const WordVerification &word : check.words)
         verdicts.append(QStringLiteral("%1 %2 (%3)")
-                            .arg(word.word, verdictName(word.verdict))
+                            .arg(word.word, QLatin1String(verdictName(word.verdict)))
                             .arg(word.goodness, 0, 'f', 1));
     VoLog::write(lcSpeech(), VoLog::Progress,
                  QStringLiteral("\n checked the reading of \"%1\" over %2 frames: goodness %3%4; "

@@ -56,6 +56,8 @@ void printVerification(const CommandLine &command, const ReadingVerification &ch
         return;
     }
     command.out << "check: goodness " << QString::number(check.goodness, 'f', 1)
+                << ", speech beyond the phrase "
+                << QString::number(100.0 * check.unmatchedSpeech, 'f', 0) << " %"
                 << (check.aligned ? "" : ", the phrase's sounds could not be aligned") << '\n';
     command.out << QStringLiteral("%1 %2 %3 %4 %5\n")
                        .arg(QStringLiteral("word"), -16)
@@ -104,6 +106,7 @@ QJsonObject verificationJson(const ReadingVerification &check)
     QJsonObject json{{QStringLiteral("checked"), check.succeeded},
                      {QStringLiteral("aligned"), check.aligned},
                      {QStringLiteral("goodness"), check.goodness},
+                     {QStringLiteral("unmatchedSpeech"), check.unmatchedSpeech},
                      {QStringLiteral("words"), words}};
     if (!check.succeeded)
         json.insert(QStringLiteral("note"), check.note);

@@ -43,7 +43,8 @@ int mark(float score, const ReadingVerification &verification)
         return 0;
     const int combined = std::max(recognized, verifiedMark(verification));
     const bool fewHeard = 10 * verification.count(WordVerdict::HeardWell) < 9 * judged;
-    if (fewHeard && verification.goodness < phraseGoodness)
+    if (verification.unmatchedSpeech > mostUnmatchedSpeech ||
+        (fewHeard && verification.goodness < phraseGoodness))
         return std::min(combined, notThePhraseMost);
     return combined;
 }

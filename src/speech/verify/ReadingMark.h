@@ -10,9 +10,10 @@
  *   heard well as 1 and each unclear word as 1/2, out of the judged words, times 10, rounded
  *   down. The learner gets the higher of the two.
  * - A reading that is not the phrase gets at most 2: one that the phrase's sounds could not be
- *   aligned to at all, or one in which fewer than nine in ten of the judged words were heard
- *   well while the phrase as a whole fitted worse than `phraseGoodness`. One in which every
- *   judged word is missing gets 0.
+ *   aligned to at all; one in which more than `mostUnmatchedSpeech` of the speech lies outside
+ *   the phrase's words (a short phrase laid over a part of something longer); or one in which
+ *   fewer than nine in ten of the judged words were heard well while the phrase as a whole
+ *   fitted worse than `phraseGoodness`. One in which every judged word is missing gets 0.
  * - Without a check (it failed, or no word could be judged), the recogniser's mark stands.
  *
  * A word's verdict rising from missing to unclear to heard well never lowers the mark, and
@@ -22,7 +23,10 @@ namespace ReadingMark {
 
 inline constexpr int notThePhraseMost = 2;
 /// The whole reading's goodness below which it may not be the phrase at all.
-inline constexpr double phraseGoodness = -12.0;
+inline constexpr double phraseGoodness = -20.0;
+/// The share of the recording's speech beyond the phrase's words above which it is something
+/// else.
+inline constexpr double mostUnmatchedSpeech = 0.35;
 
 /// floor(score / 10), 0..10; a score outside 0..100 or not a number is fatal (the scorer keeps
 /// within it).

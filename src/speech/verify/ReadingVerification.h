@@ -42,6 +42,9 @@ struct ReadingVerification {
     bool aligned{false};
     /// The mean of goodness over every judged word's frames.
     double goodness{0.0};
+    /// The share of the recording's speech (frames the free loop hears as sounds) that the
+    /// alignment left to silence and noise: speech beyond the phrase, 0..1.
+    double unmatchedSpeech{0.0};
     QList<WordVerification> words;
 
     [[nodiscard]] int count(WordVerdict verdict) const;

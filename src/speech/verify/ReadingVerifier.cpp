@@ -170,13 +170,47 @@ void logCheck(const QString &phrase, int frameCount, const ReadingVerification &
                             .arg(word.word, QLatin1String(verdictName(word.verdict)))
                             .arg(word.goodness, 0, 'f', 1));
     VoLog::write(lcSpeech(), VoLog::Progress,
-                 QStringLiteral("\n checked the reading of \"%1\" over %2 frames: goodness %3%4; "
-                                "%5")
+                 QStringLiteral("\n checked the reading of \"%1\" over %2 frames: goodness %3, "
+                                "unmatched speech %4%5; %6")
                      .arg(phrase)
                      .arg(frameCount)
                      .arg(check.goodness, 0, 'f', 1)
+                     .arg(check.unmatchedSpeech, 0, 'f', 2)
                      .arg(check.aligned ? QString() : QStringLiteral(", not aligned"),
                           verdicts.join(QStringLiteral(", "))));
+}
+
+/// Marks the frames of the segments whose word passes the test.
+std::vector<bool> framesOf(const QList<AlignedSegment> &segments, int frameCount,
+                           bool (*counts)(const QString &word))
+{
+    std::vector<bool> marked(static_cast<size_t>(frameCount), false);
+    for (const AlignedSegment &segment : segments) {
+        if (!counts(segment.word))
+            continue;
+        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount; ++f)
+            marked[static_cast<size_t>(f)] = true;
+    }
+    return marked;
+}
+
+/// A phrase aligned to a part of a longer utterance leaves the rest to silence and noise,
+/// where the loop still hears sounds.
+double unmatchedSpeech(const QList<AlignedSegment> &alignment, const QList<AlignedSegment> &loop,
+                       int frameCount)
+{
+    const std::vector<bool> heard = framesOf(loop, frameCount, [](const QString &word) {
+        return word.startsWith(QLatin1String(VerificationDecoder::loopWordPrefix));
+    });
+    const std::vector<bool> phrase = framesOf(
+        alignment, frameCount, [](const QString &word) { return placeOf(word).has_value(); });
+    int speech = 0;
+    int unmatched = 0;
+    for (size_t f = 0; f < heard.size(); ++f) {
+        speech += heard[f] || phrase[f] ? 1 : 0;
+        unmatched += heard[f] && !phrase[f] ? 1 : 0;
+    }
+    return speech > 0 ? static_cast<double>(unmatched) / speech : 0.0;
 }
 
 /// Gives the aligner a word for every phone of every pronunciation; what went wrong, if anything.
@@ -320,6 +354,8 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         }
     }
     result.goodness = totalFrames > 0 ? totalDifference / totalFrames : unalignedGoodness;
+    if (alignment)
+        result.unmatchedSpeech = unmatchedSpeech(*alignment, loop, frameCount);
     logCheck(phrase, frameCount, result);
     return result;
 }

@@ -30,7 +30,7 @@ public:
     /// Goodness at and above which a word was heard well, and below which it is missing.
     /// Set from the course's model recordings judged against their own phrases and others' (see
     /// the quality table in bench/RESULTS.md).
-    static constexpr double heardWellGoodness = -25.0;
+    static constexpr double heardWellGoodness = -30.0;
     static constexpr double missingGoodness = -60.0;
     /// What an unaligned word's goodness reads: well below anything an aligned word gets.
     static constexpr double unalignedGoodness = -100.0;

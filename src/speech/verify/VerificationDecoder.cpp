@@ -71,7 +71,7 @@ bool VerificationDecoder::setUpPhoneLoop()
 {
     QStringList words;
     for (const char *phone : modelPhones) {
-        const QString word = QStringLiteral("loop_") + QLatin1String(phone);
+        const QString word = QLatin1String(loopWordPrefix) + QLatin1String(phone);
         if (!addPhoneWord(word, QLatin1String(phone)))
             return false;
         words.append(word);

@@ -39,6 +39,9 @@ public:
     [[nodiscard]] static std::optional<VerificationDecoder> create(const QString &acousticModelPath,
                                                                    const QString &dictionaryPath);
 
+    /// The free loop's words are this and a phone: "loop_AA".
+    static constexpr char loopWordPrefix[] = "loop_";
+
     /// Adds a word of one phone, once; false when the phone is not one of the model's.
     bool addPhoneWord(const QString &word, const QString &phone);
     /// The best path through the JSGF grammar; nothing when no path reached its end.

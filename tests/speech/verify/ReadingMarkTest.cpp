@@ -62,6 +62,10 @@ TEST(ReadingMark, SpeechThatIsNotThePhraseGetsAtMostTwo)
     unaligned.aligned = false;
     EXPECT_EQ(ReadingMark::mark(90.0F, unaligned), 2);
     EXPECT_EQ(ReadingMark::mark(10.0F, unaligned), 1);
+    // A one-word phrase found in a part of a longer utterance.
+    ReadingVerification partOfSomethingElse = checked({well}, fittedWell);
+    partOfSomethingElse.unmatchedSpeech = 0.6;
+    EXPECT_EQ(ReadingMark::mark(100.0F, partOfSomethingElse), 2);
     // Every word missing: nothing of the phrase was said.
     EXPECT_EQ(ReadingMark::mark(70.0F, checked({missing, missing, missing}, fittedWell)), 0);
     // A phrase that fitted well as a whole is not held down for a few unclear words.

@@ -26,7 +26,7 @@ inline constexpr int notThePhraseMost = 2;
 inline constexpr double phraseGoodness = -20.0;
 /// The share of the recording's speech beyond the phrase's words above which it is something
 /// else.
-inline constexpr double mostUnmatchedSpeech = 0.35;
+inline constexpr double mostUnmatchedSpeech = 0.45;
 
 /// floor(score / 10), 0..10; a score outside 0..100 or not a number is fatal (the scorer keeps
 /// within it).

@@ -27,11 +27,12 @@ std::optional<VerificationDecoder> VerificationDecoder::create(const QString &ac
     const DecoderLogGuard log;
     // Silence stays in so that frame numbers are the recording's. The beams are narrower than
     // the recogniser's: a phrase whose sounds are not in the recording loses every path, which
-    // is itself the clearest verdict.
+    // is itself the clearest verdict. Every phone is a word here, so the word-exit beam is as
+    // wide as the others: narrower, it lost the paths of some readings of their own phrase.
     const sphinx::ConfigPtr config(cmd_ln_init(nullptr, ps_args(), TRUE, "-hmm", hmm.constData(),
                                                "-dict", dict.constData(), "-remove_silence", "no",
                                                "-dither", "no", "-bestpath", "no", "-beam", "1e-80",
-                                               "-pbeam", "1e-80", "-wbeam", "1e-60", nullptr));
+                                               "-pbeam", "1e-80", "-wbeam", "1e-80", nullptr));
     if (!config) {
         VoLog::write(lcSpeech(), VoLog::Error,
                      QStringLiteral("the checking decoder's options do not parse"));

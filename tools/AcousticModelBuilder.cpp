@@ -37,21 +37,26 @@ QStringList courseWords(const QString &courseFolder)
     return words;
 }
 
-/// The course's words as the quizzes split them, upper-cased, that the recogniser's split would
-/// not keep whole: they hold a letter outside A to Z ("BRÖTCHEN", "STRASSE" stays out).
+/// The course's words as the quizzes split them, as written, that the recogniser's split would
+/// not keep whole: they hold a letter outside A to Z ("Brötchen", "heißen"). One of each by its
+/// upper-cased form, which is how they are looked up.
 QStringList wholeWordsOnly(const QString &courseFolder)
 {
-    static const QRegularExpression asciiWord(QStringLiteral("^[A-Z']+$"));
+    static const QRegularExpression asciiWord(QStringLiteral("^[A-Za-z']+$"));
     ContentStore store(courseFolder);
     QStringList words;
+    QStringList keys;
     for (const CategoryInfo *category : store.loadAllCategories()) {
         for (const PhraseInfo *phrase : *store.loadPhrases(category->id)) {
-            for (const QString &word : VoAppCommon::getAllWordFromText(foreignText(*phrase), true))
-                if (!asciiWord.match(word).hasMatch())
-                    words.append(word);
+            for (const QString &word :
+                 VoAppCommon::getAllWordFromText(foreignText(*phrase), false)) {
+                if (asciiWord.match(word).hasMatch() || keys.contains(word.toUpper()))
+                    continue;
+                words.append(word);
+                keys.append(word.toUpper());
+            }
         }
     }
-    words.removeDuplicates();
     return words;
 }
 
@@ -143,7 +148,7 @@ bool AcousticModelBuilder::writeWholeWordList(const GermanPronouncer &pronouncer
         return false;
     QList<Pronunciation> list;
     for (qsizetype i = 0; i < words.size(); ++i)
-        list.append({words[i], 1, (*phones)[i]});
+        list.append({words[i].toUpper(), 1, (*phones)[i]});
     sortForLookup(list);
     m_wholeWords = list.size();
     const QString path =

@@ -95,6 +95,8 @@ struct WordSum {
     /// Alignment minus loop, over the word's frames.
     double difference{0.0};
     int frames{0};
+    /// The word's frames in which the free loop heard a sound rather than silence or noise.
+    int heardFrames{0};
     /// The pronunciation the alignment took, and its phone that fitted worst.
     int alternate{-1};
     int weakestPhone{-1};
@@ -104,7 +106,8 @@ struct WordSum {
 };
 
 std::vector<WordSum> sumByWord(const QList<AlignedSegment> &alignment,
-                               const std::vector<double> &loopScore, qsizetype wordCount)
+                               const std::vector<double> &loopScore, const std::vector<bool> &heard,
+                               qsizetype wordCount)
 {
     std::vector<WordSum> sums(static_cast<size_t>(wordCount));
     const auto frameCount = static_cast<int>(loopScore.size());
@@ -112,12 +115,15 @@ std::vector<WordSum> sumByWord(const QList<AlignedSegment> &alignment,
         const std::optional<PhonePlace> place = placeOf(segment.word);
         if (!place || place->word >= wordCount)
             continue;
+        WordSum &sum = sums[static_cast<size_t>(place->word)];
         double loopSum = 0.0;
-        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount; ++f)
+        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount;
+             ++f) {
             loopSum += loopScore[static_cast<size_t>(f)];
+            sum.heardFrames += heard[static_cast<size_t>(f)] ? 1 : 0;
+        }
         const double difference = segment.acousticScore - loopSum;
         const double goodness = difference / segment.frames();
-        WordSum &sum = sums[static_cast<size_t>(place->word)];
         sum.difference += difference;
         sum.frames += segment.frames();
         sum.alternate = place->alternate;
@@ -149,7 +155,9 @@ WordVerification judgedWord(const QString &text, const QList<QStringList> &pronu
         return word;
     }
     word.goodness = sum.difference / sum.frames;
-    word.verdict = verdictFor(word.goodness);
+    // Laid over what the loop hears as silence, the word was not said, however its sounds fit.
+    word.verdict =
+        2 * sum.heardFrames < sum.frames ? WordVerdict::Missing : verdictFor(word.goodness);
     word.startFrame = sum.startFrame;
     word.endFrame = sum.endFrame;
     if (word.verdict != WordVerdict::HeardWell) {
@@ -196,12 +204,9 @@ std::vector<bool> framesOf(const QList<AlignedSegment> &segments, int frameCount
 
 /// A phrase aligned to a part of a longer utterance leaves the rest to silence and noise,
 /// where the loop still hears sounds.
-double unmatchedSpeech(const QList<AlignedSegment> &alignment, const QList<AlignedSegment> &loop,
-                       int frameCount)
+double unmatchedSpeech(const QList<AlignedSegment> &alignment, const std::vector<bool> &heard)
 {
-    const std::vector<bool> heard = framesOf(loop, frameCount, [](const QString &word) {
-        return word.startsWith(QLatin1String(VerificationDecoder::loopWordPrefix));
-    });
+    const auto frameCount = static_cast<int>(heard.size());
     const std::vector<bool> phrase = framesOf(
         alignment, frameCount, [](const QString &word) { return placeOf(word).has_value(); });
     int speech = 0;
@@ -334,8 +339,11 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         for (const AlignedSegment &segment : *alignment)
             frameCount = std::max(frameCount, segment.endFrame + 1);
     }
+    const std::vector<bool> heard = framesOf(loop, frameCount, [](const QString &word) {
+        return word.startsWith(QLatin1String(VerificationDecoder::loopWordPrefix));
+    });
     const std::vector<WordSum> sums =
-        alignment ? sumByWord(*alignment, scorePerFrame(loop, frameCount), words.size())
+        alignment ? sumByWord(*alignment, scorePerFrame(loop, frameCount), heard, words.size())
                   : std::vector<WordSum>(static_cast<size_t>(words.size()));
 
     const QStringList ipaWords =
@@ -355,7 +363,7 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
     }
     result.goodness = totalFrames > 0 ? totalDifference / totalFrames : unalignedGoodness;
     if (alignment)
-        result.unmatchedSpeech = unmatchedSpeech(*alignment, loop, frameCount);
+        result.unmatchedSpeech = unmatchedSpeech(*alignment, heard);
     logCheck(phrase, frameCount, result);
     return result;
 }

@@ -309,9 +309,11 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         return result;
     }
     if (!m_aligner)
-        m_aligner = VerificationDecoder::create(m_acousticModelPath, dictionaryPath);
+        m_aligner = VerificationDecoder::create(m_acousticModelPath, dictionaryPath,
+                                                VerificationDecoder::Role::Alignment);
     if (!m_loop)
-        m_loop = VerificationDecoder::create(m_acousticModelPath, dictionaryPath);
+        m_loop = VerificationDecoder::create(m_acousticModelPath, dictionaryPath,
+                                             VerificationDecoder::Role::PhoneLoop);
     if (!m_aligner || !m_loop) {
         result.note = QStringLiteral("the checking decoder could not start");
         return result;

@@ -35,9 +35,14 @@ struct AlignedSegment {
  */
 class VerificationDecoder {
 public:
+    enum class Role {
+        Alignment,
+        PhoneLoop,
+    };
+
     /// Null, logged, when the acoustic model or the dictionary cannot be read.
-    [[nodiscard]] static std::optional<VerificationDecoder> create(const QString &acousticModelPath,
-                                                                   const QString &dictionaryPath);
+    [[nodiscard]] static std::optional<VerificationDecoder>
+    create(const QString &acousticModelPath, const QString &dictionaryPath, Role role);
 
     /// The free loop's words are this and a phone: "loop_AA".
     static constexpr char loopWordPrefix[] = "loop_";

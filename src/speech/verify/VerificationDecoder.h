@@ -24,12 +24,12 @@ struct AlignedSegment {
  * @brief A decoder that checks readings: a forced alignment of a phrase's phones, or a free loop
  * of any phones, over a recording, each a grammar search set up once and kept.
  *
- * The loop is a grammar too, rather than the library's phone-loop search: that search scores
- * each frame against the best path so far, so its segments' scores cannot be set against the
- * alignment's; two searches of one kind can, frame by frame.
+ * The loop is a grammar too, rather than the library's phone-loop search: that search's segment
+ * scores come out relative to the best path of their frames (some are even above 0), so they
+ * cannot be set against an alignment's; two searches of one kind can, frame by frame.
  *
- * Made once per phrase model and kept for its recordings: loading the acoustic model is most of
- * a decoder's start. Its front end has no dither (the caller adds its own, so that runs on
+ * Made once and kept for every reading, whatever its phrase: loading the acoustic model is most
+ * of a decoder's start, and the phrase's phones are words added to it as they come. Its front end has no dither (the caller adds its own, so that runs on
  * several threads stay independent of the library's one shared random generator) and batch
  * normalisation, so both searches see the same features whatever ran before.
  */

@@ -10,11 +10,15 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
+#include <cmath>
 #include <future>
 #include <random>
 #include <system_error>
 
 namespace {
+
+/// Samples between the decoder's frames: 10 ms at 16 kHz.
+constexpr size_t frameShift = 160;
 
 /// One phone of the grammar: which word, which of its pronunciations, which phone.
 struct PhonePlace {
@@ -48,15 +52,52 @@ std::optional<PhonePlace> placeOf(const QString &word)
 /// The faint noise of a real room over the recording, so that digital silence reaches the
 /// searches as something they can score. Seeded the same every time: the same recording is
 /// judged the same.
-std::vector<int16_t> dithered(const std::vector<int16_t> &samples)
+std::vector<int16_t> dithered(const std::vector<int16_t> &samples, size_t first, size_t end)
 {
     std::minstd_rand noise(1);
-    std::vector<int16_t> out(samples.size());
-    for (size_t i = 0; i < samples.size(); ++i) {
+    std::vector<int16_t> out(end - first);
+    for (size_t i = first; i < end; ++i) {
         const int value = samples[i] + static_cast<int>(noise() % 3) - 1;
-        out[i] = static_cast<int16_t>(std::clamp(value, -32768, 32767));
+        out[i - first] = static_cast<int16_t>(std::clamp(value, -32768, 32767));
     }
     return out;
+}
+
+/// The part of a recording worth checking: from a little before its first sound to a little
+/// after its last, in whole frames. Long silence around a reading otherwise weighs on the
+/// utterance's feature normalisation and costs the alignment its path.
+struct SpeechSpan {
+    size_t first{0};
+    size_t end{0};
+};
+
+SpeechSpan speechSpan(const std::vector<int16_t> &samples)
+{
+    constexpr size_t margin = 30;          // frames kept either side: 0.3 s
+    constexpr double quietestSound = 30.0; // RMS: about -60 dBFS, above the dither
+    constexpr double belowLoudest = 0.01;  // -40 dB from the loudest frame
+    const size_t frames = samples.size() / frameShift;
+    std::vector<double> rms(frames, 0.0);
+    double loudest = 0.0;
+    for (size_t f = 0; f < frames; ++f) {
+        double sum = 0.0;
+        for (size_t i = f * frameShift; i < (f + 1) * frameShift; ++i)
+            sum += static_cast<double>(samples[i]) * samples[i];
+        rms[f] = std::sqrt(sum / frameShift);
+        loudest = std::max(loudest, rms[f]);
+    }
+    const double threshold = std::max(quietestSound, loudest * belowLoudest);
+    const auto sound = [&](double value) {
+        return value > threshold;
+    };
+    const auto firstSound = std::find_if(rms.cbegin(), rms.cend(), sound);
+    if (firstSound == rms.cend())
+        return {0, samples.size()};
+    const auto lastSound = std::find_if(rms.crbegin(), rms.crend(), sound);
+    const auto firstFrame = static_cast<size_t>(firstSound - rms.cbegin());
+    const size_t lastFrame = frames - 1 - static_cast<size_t>(lastSound - rms.crbegin());
+    return {(firstFrame > margin ? firstFrame - margin : 0) * frameShift,
+            std::min(samples.size(), (lastFrame + 1 + margin) * frameShift)};
 }
 
 /// work() on a thread of its own, or in line when no thread can be had.
@@ -323,7 +364,8 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         return result;
     }
 
-    const std::vector<int16_t> input = dithered(samples);
+    const SpeechSpan span = speechSpan(samples);
+    const std::vector<int16_t> input = dithered(samples, span.first, span.end);
     // The loop costs three times the alignment: it runs on a thread of its own while the
     // alignment runs here.
     std::future<QList<AlignedSegment>> loopDone =
@@ -364,6 +406,14 @@ ReadingVerification ReadingVerifier::verify(const QString &phrase, const QString
         }
     }
     result.goodness = totalFrames > 0 ? totalDifference / totalFrames : unalignedGoodness;
+    // Frames count from the recording's start, as the recogniser's do.
+    const auto skipped = static_cast<int>(span.first / frameShift);
+    for (WordVerification &word : result.words) {
+        if (word.startFrame >= 0) {
+            word.startFrame += skipped;
+            word.endFrame += skipped;
+        }
+    }
     if (alignment)
         result.unmatchedSpeech = unmatchedSpeech(*alignment, heard);
     logCheck(phrase, frameCount, result);

@@ -1,3 +1,6 @@
+#include "speech/verify/ReadingVerifier.h"
+
+#include "audio/VoAudioUtil.h"
 #include "content/AppCommon.h"
 #include "speech/PhraseAssessment.h"
 #include "speech/verify/SoundSpelling.h"
@@ -63,6 +66,34 @@ TEST(ReadingVerifier, JudgesEveryWordOfItsOwnPhraseAndTellsAnotherPhraseApart)
         EXPECT_EQ(again.verification.words[i].goodness, check.words[i].goodness);
     }
     EXPECT_EQ(again.mark, own.mark);
+}
+
+TEST(ReadingVerifier, LongSilenceAroundAReadingMovesItsFramesAndNothingElse)
+{
+    PhraseInfo &rolls = coursePhrase(u"4"_s, u"Ich hätte gern vier Brötchen."_s);
+    AudioDataInfo audio;
+    ASSERT_EQ(VoAudioUtil::decodeAudioDataFromFile(soundPath(rolls), audio), 0);
+    const std::vector<int16_t> reading = VoAudioUtil::getAudioDataShortForByte(audio);
+    std::vector<int16_t> padded(5 * 16000, 0);
+    padded.insert(padded.end(), reading.begin(), reading.end());
+    padded.resize(padded.size() + 5 * 16000, 0);
+
+    const QTemporaryDir folder;
+    const ReadingTarget target{
+        foreignText(rolls), rolls.phon,
+        generatePhraseModel(foreignText(rolls), folder.path(), TestPaths::acousticModel()),
+        TestPaths::acousticModel()};
+    ReadingVerifier verifier(TestPaths::acousticModel());
+    const ReadingVerification plain =
+        verifier.verify(target.text, target.ipa, target.model.dictionaryPath, reading);
+    const ReadingVerification quiet =
+        verifier.verify(target.text, target.ipa, target.model.dictionaryPath, padded);
+    ASSERT_TRUE(quiet.aligned);
+    ASSERT_EQ(quiet.words.size(), plain.words.size());
+    for (qsizetype i = 0; i < plain.words.size(); ++i) {
+        EXPECT_EQ(quiet.words[i].verdict, plain.words[i].verdict) << i;
+        EXPECT_NEAR(quiet.words[i].startFrame, plain.words[i].startFrame + 500, 3) << i;
+    }
 }
 
 TEST(ReadingVerifier, AWeakSoundIsNamedByItsLettersAndIpa)

@@ -91,10 +91,16 @@ TEST_F(SpeakQuizTest, TheMeterFollowsTheVoiceAndTheComparisonWaitsForTheWholeFil
     start(quiz, 10);
     PhraseRecording &recording = *quiz.recording();
     input.setFile(input.tone());
+    // The recorder's own poll may take the last peak before the test's one.
+    qreal loudest = 0.0;
+    const QMetaObject::Connection meter =
+        QObject::connect(&recording, &PhraseRecording::levelChanged, &recording,
+                         [&] { loudest = std::max(loudest, recording.level()); });
     quiz.beginRecordAction();
     ASSERT_TRUE(input.waitDelivered(1));
     recording.recorder().levelPoll();
-    EXPECT_GT(recording.level(), 0.8) << "a half-scale tone is about -6 dB";
+    QObject::disconnect(meter);
+    EXPECT_GT(loudest, 0.8) << "a half-scale tone is about -6 dB";
 
     quiz.endRecordAction();
     EXPECT_EQ(recording.level(), 0.0);

@@ -78,11 +78,18 @@ TEST_F(SpeakQuizUiTest, ReadsPhrasesAloudByMouseAndSpaceBarToTheResults)
 
     // Held with the mouse while the phrase's own recording is heard.
     input.setFile(soundPath(*quiz->phraseInfos().at(0)));
+    // The recorder's own poll may take the last peak before the test's: what counts is that the
+    // meter moved while the voice was heard.
+    qreal loudest = 0.0;
+    const QMetaObject::Connection meter =
+        QObject::connect(quiz->recording(), &PhraseRecording::levelChanged, quiz->recording(),
+                         [&] { loudest = std::max(loudest, quiz->recording()->level()); });
     QTest::mousePress(app.window(), Qt::LeftButton, Qt::NoModifier, microphone());
     ASSERT_TRUE(quiz->recording()->recording());
     ASSERT_TRUE(input.waitDelivered(1));
     quiz->recording()->recorder().levelPoll();
-    EXPECT_GT(quiz->recording()->level(), 0.0);
+    QObject::disconnect(meter);
+    EXPECT_GT(loudest, 0.0);
     EXPECT_TRUE(item(u"levelMeter"_s)->isVisible());
     EXPECT_FALSE(item(u"tipLbl"_s)->isVisible());
     (void)app.screenshot(u"speak-quiz-recording"_s);

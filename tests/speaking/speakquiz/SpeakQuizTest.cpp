@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -96,10 +97,10 @@ TEST_F(SpeakQuizTest, TheMeterFollowsTheVoiceAndTheComparisonWaitsForTheWholeFil
     const QMetaObject::Connection meter =
         QObject::connect(&recording, &PhraseRecording::levelChanged, &recording,
                          [&] { loudest = std::max(loudest, recording.level()); });
+    const auto stopMetering = qScopeGuard([&] { QObject::disconnect(meter); });
     quiz.beginRecordAction();
     ASSERT_TRUE(input.waitDelivered(1));
     recording.recorder().levelPoll();
-    QObject::disconnect(meter);
     EXPECT_GT(loudest, 0.8) << "a half-scale tone is about -6 dB";
 
     quiz.endRecordAction();

@@ -10,6 +10,7 @@
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QQuickWindow>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -84,11 +85,11 @@ TEST_F(SpeakQuizUiTest, ReadsPhrasesAloudByMouseAndSpaceBarToTheResults)
     const QMetaObject::Connection meter =
         QObject::connect(quiz->recording(), &PhraseRecording::levelChanged, quiz->recording(),
                          [&] { loudest = std::max(loudest, quiz->recording()->level()); });
+    const auto stopMetering = qScopeGuard([&] { QObject::disconnect(meter); });
     QTest::mousePress(app.window(), Qt::LeftButton, Qt::NoModifier, microphone());
     ASSERT_TRUE(quiz->recording()->recording());
     ASSERT_TRUE(input.waitDelivered(1));
     quiz->recording()->recorder().levelPoll();
-    QObject::disconnect(meter);
     EXPECT_GT(loudest, 0.0);
     EXPECT_TRUE(item(u"levelMeter"_s)->isVisible());
     EXPECT_FALSE(item(u"tipLbl"_s)->isVisible());

@@ -1,7 +1,7 @@
 #include "PhraseAssessment.h"
 
+#include "RunBeside.h"
 #include "SpeechLog.h"
-#include "VoCommandArray.h"
 #include "VoLanguageModelTrainer.h"
 #include "VoPSRecognizer.h"
 #include "audio/VoAudioUtil.h"
@@ -10,8 +10,6 @@
 #include "verify/ReadingVerifier.h"
 
 #include <QTemporaryDir>
-#include <future>
-#include <system_error>
 
 namespace {
 
@@ -21,21 +19,6 @@ PhraseAssessment failed(PhraseAssessment::Failure failure, const QString &error)
     assessment.failure = failure;
     assessment.error = error;
     return assessment;
-}
-
-/// The check on its own thread, so that it costs the learner no time beside the recognition;
-/// in line when no thread can be had.
-std::future<ReadingVerification> startCheck(ReadingVerifier &verifier, const ReadingTarget &target,
-                                            const std::vector<int16_t> &samples)
-{
-    auto check = [&verifier, &target, &samples] {
-        return verifier.verify(target.text, target.ipa, target.model.dictionaryPath, samples);
-    };
-    try {
-        return std::async(std::launch::async, check);
-    } catch (const std::system_error &) {
-        return std::async(std::launch::deferred, check);
-    }
 }
 
 } // namespace
@@ -64,17 +47,14 @@ PhraseModel generatePhraseModel(const QString &phrase, const QString &folder,
 PhraseAssessment assessSamples(VoPSRecognizer &recognizer, ReadingVerifier &verifier,
                                const ReadingTarget &target, std::vector<int16_t> samples)
 {
-    const double seconds = static_cast<double>(samples.size()) / VoCommandArray::sampleRate;
-    if (seconds > VoPSRecognizer::longestRecordingSeconds) {
-        VoLog::write(lcSpeech(), VoLog::Error,
-                     QStringLiteral("a recording of %1 s is longer than the %2 s the recogniser "
-                                    "takes; not recognised")
-                         .arg(seconds)
-                         .arg(VoPSRecognizer::longestRecordingSeconds));
+    // Refused before the check starts: it would only be thrown away.
+    if (!VoPSRecognizer::acceptsLength(samples.size(), QStringLiteral("in memory")))
         return failed(PhraseAssessment::Failure::Recording,
                       QStringLiteral("the recording is too long"));
-    }
-    std::future<ReadingVerification> check = startCheck(verifier, target, samples);
+    // The check costs the learner no time beside the recognition.
+    std::future<ReadingVerification> check = runBeside([&verifier, &target, &samples] {
+        return verifier.verify(target.text, target.ipa, target.model.dictionaryPath, samples);
+    });
     recognizer.runRecognitionOnSamples(samples, target.model.languageModelPath,
                                        target.model.dictionaryPath, target.acousticModelPath,
                                        false);

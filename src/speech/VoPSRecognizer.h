@@ -99,8 +99,11 @@ public:
     /// "logProbability" x 100.
     [[nodiscard]] static float getWordScore(const QVariantMap &wordResult);
 
-private:
+    /// Whether a recording of this many samples is short enough to recognise; logs why not,
+    /// naming the source.
     [[nodiscard]] static bool acceptsLength(size_t sampleCount, const QString &source);
+
+private:
     /// Steps shared by both entry points once the utterance is open and the samples are stored.
     void recognizeUtterance(ps_decoder_t *decoder, RecognitionClock &clock);
     /// Rows for the first frameCount frames of the stored samples.

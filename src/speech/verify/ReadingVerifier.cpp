@@ -4,6 +4,7 @@
 #include "content/VoAppCommon.h"
 #include "content/VoLog.h"
 #include "speech/PronunciationList.h"
+#include "speech/RunBeside.h"
 #include "speech/SpeechLog.h"
 
 #include <QDir>
@@ -11,9 +12,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
-#include <future>
 #include <random>
-#include <system_error>
 
 namespace {
 
@@ -100,14 +99,12 @@ SpeechSpan speechSpan(const std::vector<int16_t> &samples)
             std::min(samples.size(), (lastFrame + 1 + margin) * frameShift)};
 }
 
-/// work() on a thread of its own, or in line when no thread can be had.
-template <typename Work> auto runBeside(Work work) -> std::future<decltype(work())>
+/// Calls visit(f) for each of the segment's frames that lie within the first frameCount.
+template <typename Visit>
+void forEachFrame(const AlignedSegment &segment, int frameCount, Visit visit)
 {
-    try {
-        return std::async(std::launch::async, std::move(work));
-    } catch (const std::system_error &) {
-        return std::async(std::launch::deferred, std::move(work));
-    }
+    for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount; ++f)
+        visit(static_cast<size_t>(f));
 }
 
 /// The free loop's acoustic score spread evenly over each of its segments' frames.
@@ -116,8 +113,7 @@ std::vector<double> scorePerFrame(const QList<AlignedSegment> &segments, int fra
     std::vector<double> perFrame(static_cast<size_t>(frameCount), 0.0);
     for (const AlignedSegment &segment : segments) {
         const double share = static_cast<double>(segment.acousticScore) / segment.frames();
-        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount; ++f)
-            perFrame[static_cast<size_t>(f)] = share;
+        forEachFrame(segment, frameCount, [&](size_t f) { perFrame[f] = share; });
     }
     return perFrame;
 }
@@ -158,11 +154,10 @@ std::vector<WordSum> sumByWord(const QList<AlignedSegment> &alignment,
             continue;
         WordSum &sum = sums[static_cast<size_t>(place->word)];
         double loopSum = 0.0;
-        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount;
-             ++f) {
-            loopSum += loopScore[static_cast<size_t>(f)];
-            sum.heardFrames += heard[static_cast<size_t>(f)] ? 1 : 0;
-        }
+        forEachFrame(segment, frameCount, [&](size_t f) {
+            loopSum += loopScore[f];
+            sum.heardFrames += heard[f] ? 1 : 0;
+        });
         const double difference = segment.acousticScore - loopSum;
         const double goodness = difference / segment.frames();
         sum.difference += difference;
@@ -237,8 +232,7 @@ std::vector<bool> framesOf(const QList<AlignedSegment> &segments, int frameCount
     for (const AlignedSegment &segment : segments) {
         if (!counts(segment.word))
             continue;
-        for (int f = std::max(segment.startFrame, 0); f <= segment.endFrame && f < frameCount; ++f)
-            marked[static_cast<size_t>(f)] = true;
+        forEachFrame(segment, frameCount, [&](size_t f) { marked[f] = true; });
     }
     return marked;
 }

@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/AppPaths.h"
+#include "app/UserRecord.h"
 #include "content/AppCommon.h"
 
 #include <QCommandLineParser>
@@ -43,5 +44,7 @@ int main(int argc, char *argv[])
         &engine, &QQmlApplicationEngine::objectCreationFailed, &app,
         [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/Tolvane/Main.qml")));
-    return QGuiApplication::exec();
+    const int status = QGuiApplication::exec();
+    flushUserRecord();
+    return status;
 }

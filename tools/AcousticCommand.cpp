@@ -4,18 +4,18 @@
 int runAcousticCommand(const CommandLine &command)
 {
     if (command.arguments.value(0) != QLatin1String("build"))
-        return command.fail(QStringLiteral("acoustic needs the sub-command build"));
+        return command.usageError(QStringLiteral("acoustic needs the sub-command build"));
     const QStringList options{QStringLiteral("--course"), QStringLiteral("--model"),
                               QStringLiteral("--dict"), QStringLiteral("--phones")};
     const ParsedArguments parsed = ParsedArguments::parse(command.arguments.mid(1), options);
     if (!parsed.error.isEmpty())
-        return command.fail(parsed.error);
+        return command.usageError(parsed.error);
     for (const QString &option : options) {
         if (!parsed.values.contains(option))
-            return command.fail(QStringLiteral("acoustic build needs %1").arg(option));
+            return command.usageError(QStringLiteral("acoustic build needs %1").arg(option));
     }
     if (parsed.positional.size() != 1)
-        return command.fail(QStringLiteral("acoustic build needs one output folder"));
+        return command.usageError(QStringLiteral("acoustic build needs one output folder"));
 
     AcousticModelBuilder builder({parsed.values.value(options[0]), parsed.values.value(options[1]),
                                   parsed.values.value(options[2]), parsed.values.value(options[3])},

@@ -5,6 +5,14 @@
 #include <QStringList>
 #include <QTextStream>
 
+/// tolvane-cli's exit statuses, listed in the README.
+namespace ExitStatus {
+inline constexpr int Done = 0;
+inline constexpr int WrongUsage = 1;
+inline constexpr int BadInput = 2;
+inline constexpr int MachineFailure = 3;
+} // namespace ExitStatus
+
 /// @brief A command's arguments split into positional ones, "--name VALUE" options and flags.
 struct ParsedArguments {
     QStringList positional;
@@ -23,8 +31,12 @@ struct CommandLine {
     QTextStream &out;
     QTextStream &err;
 
-    /// Prints "tolvane-cli: <message>" and returns the exit code for bad input.
-    int fail(const QString &message) const;
+    // Each prints "tolvane-cli: <message>" and returns its exit status.
+    [[nodiscard]] int usageError(const QString &message) const;
+    /// Bad input: a file that is missing, damaged or of the wrong kind.
+    [[nodiscard]] int fail(const QString &message) const;
+    /// The machine failed us: a folder or file that cannot be written, a device.
+    [[nodiscard]] int machineFailure(const QString &message) const;
 };
 
 int runContentCommand(const CommandLine &command);

@@ -13,9 +13,9 @@ int listContent(const CommandLine &command, const QStringList &arguments)
         ParsedArguments::parse(arguments, {QStringLiteral("--resources"), QStringLiteral("--lang"),
                                            QStringLiteral("--category")});
     if (!parsed.error.isEmpty())
-        return command.fail(parsed.error);
+        return command.usageError(parsed.error);
     if (!parsed.positional.isEmpty())
-        return command.fail(
+        return command.usageError(
             QStringLiteral("unexpected argument %1").arg(parsed.positional.first()));
 
     const QString root =
@@ -25,8 +25,9 @@ int listContent(const CommandLine &command, const QStringList &arguments)
         return command.fail(QStringLiteral("no course at %1").arg(root));
     const QString language = parsed.values.value(QStringLiteral("--lang"), defaultLanguageCode());
     if (!supportedLanguageCodes().contains(language))
-        return command.fail(QStringLiteral("unknown language code \"%1\"; known: %2")
-                                .arg(language, supportedLanguageCodes().join(QLatin1Char(' '))));
+        return command.usageError(
+            QStringLiteral("unknown language code \"%1\"; known: %2")
+                .arg(language, supportedLanguageCodes().join(QLatin1Char(' '))));
 
     ContentStore store(root);
     if (!parsed.values.contains(QStringLiteral("--category"))) {
@@ -53,9 +54,9 @@ int buildContent(const CommandLine &command, const QStringList &arguments)
 {
     const ParsedArguments parsed = ParsedArguments::parse(arguments, {});
     if (!parsed.error.isEmpty())
-        return command.fail(parsed.error);
+        return command.usageError(parsed.error);
     if (parsed.positional.size() != 2)
-        return command.fail(QStringLiteral("content build needs SRC and OUT"));
+        return command.usageError(QStringLiteral("content build needs SRC and OUT"));
     CourseBuilder builder(parsed.positional[0], parsed.positional[1]);
     if (!builder.build()) {
         return command.fail(builder.error());
@@ -74,5 +75,5 @@ int runContentCommand(const CommandLine &command)
         return listContent(command, rest);
     if (action == QLatin1String("build"))
         return buildContent(command, rest);
-    return command.fail(QStringLiteral("content needs \"list\" or \"build\""));
+    return command.usageError(QStringLiteral("content needs \"list\" or \"build\""));
 }

@@ -45,19 +45,20 @@ int runCryptCommand(const CommandLine &command)
     const ParsedArguments parsed =
         ParsedArguments::parse(command.arguments, {QStringLiteral("--key")});
     if (!parsed.error.isEmpty())
-        return command.fail(parsed.error);
+        return command.usageError(parsed.error);
     if (parsed.positional.isEmpty())
-        return command.fail(QStringLiteral("crypt needs an action"));
+        return command.usageError(QStringLiteral("crypt needs an action"));
     const auto action = actions.find(parsed.positional.first());
     if (action == actions.end())
-        return command.fail(
+        return command.usageError(
             QStringLiteral("unknown crypt action \"%1\"").arg(parsed.positional.first()));
     const QStringList paths = parsed.positional.mid(1);
     if (paths.size() < action->second.minPaths || paths.size() > action->second.maxPaths)
-        return command.fail(QStringLiteral("wrong number of files for %1").arg(action->first));
+        return command.usageError(
+            QStringLiteral("wrong number of files for %1").arg(action->first));
     const QString key = parsed.values.value(QStringLiteral("--key"), VoCryptor::contentKey);
     if (key.isEmpty())
-        return command.fail(QStringLiteral("the key is empty"));
+        return command.usageError(QStringLiteral("the key is empty"));
     if (!action->second.run(paths, key))
         return command.fail(QStringLiteral("%1 failed: the input cannot be read or deciphered "
                                            "with this key, or the output cannot be written")

@@ -7,9 +7,9 @@ int runRecordCommand(const CommandLine &command)
     const ParsedArguments parsed =
         ParsedArguments::parse(command.arguments, {QStringLiteral("--record")});
     if (!parsed.error.isEmpty())
-        return command.fail(parsed.error);
+        return command.usageError(parsed.error);
     if (parsed.positional != QStringList{QStringLiteral("show")})
-        return command.fail(QStringLiteral("record knows only \"show\""));
+        return command.usageError(QStringLiteral("record knows only \"show\""));
 
     const UserInfoFile file = parsed.values.contains(QStringLiteral("--record"))
                                   ? UserInfoFile(parsed.values.value(QStringLiteral("--record")))

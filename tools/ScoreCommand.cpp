@@ -53,12 +53,12 @@ int runScoreCommand(const CommandLine &command)
     const ParsedArguments parsed = ParsedArguments::parse(
         command.arguments, {textOption, wordsOption}, {QStringLiteral("--json")});
     if (!parsed.error.isEmpty())
-        return command.fail(parsed.error);
+        return command.usageError(parsed.error);
     if (!parsed.positional.isEmpty())
-        return command.fail(
+        return command.usageError(
             QStringLiteral("score: unexpected argument %1").arg(parsed.positional.first()));
     if (!parsed.values.contains(textOption) || !parsed.values.contains(wordsOption))
-        return command.fail(QStringLiteral("score needs --text PHRASE and --words FILE"));
+        return command.usageError(QStringLiteral("score needs --text PHRASE and --words FILE"));
 
     QString error;
     const auto wordResults = readWordResults(parsed.values.value(wordsOption), error);

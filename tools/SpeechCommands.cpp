@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "audio/AudioDecodeStatus.h"
 #include "audio/SpectrumImage.h"
 #include "audio/VoAudioUtil.h"
 #include "speech/FloatText.h"
@@ -156,13 +157,14 @@ int runLmCommand(const CommandLine &command)
     const ParsedArguments parsed = ParsedArguments::parse(
         command.arguments, {QStringLiteral("--name"), QStringLiteral("--out"), hmmOption});
     if (!parsed.error.isEmpty())
-        return command.fail(QStringLiteral("lm: ") + parsed.error);
+        return command.usageError(QStringLiteral("lm: ") + parsed.error);
     const QString name = parsed.values.value(QStringLiteral("--name"));
     const QString folder = parsed.values.value(QStringLiteral("--out"));
     if (name.isEmpty() || folder.isEmpty() || parsed.positional.isEmpty())
-        return command.fail(QStringLiteral("lm needs --name N --out DIR and at least one word"));
+        return command.usageError(
+            QStringLiteral("lm needs --name N --out DIR and at least one word"));
     if (!QDir().mkpath(folder))
-        return command.fail(QStringLiteral("lm: can not make the folder %1").arg(folder));
+        return command.machineFailure(QStringLiteral("lm: can not make the folder %1").arg(folder));
     QVariantMap files;
     const QString error =
         generateModel(parsed.positional, name, folder, acousticModelPath(parsed), files);
@@ -181,10 +183,10 @@ int runAssessCommand(const CommandLine &command)
         command.arguments, {QStringLiteral("--text"), QStringLiteral("--ipa"), hmmOption},
         {jsonFlag, verboseFlag});
     if (!parsed.error.isEmpty())
-        return command.fail(QStringLiteral("assess: ") + parsed.error);
+        return command.usageError(QStringLiteral("assess: ") + parsed.error);
     const QString text = parsed.values.value(QStringLiteral("--text"));
     if (text.isEmpty() || parsed.positional.size() != 1)
-        return command.fail(QStringLiteral("assess needs --text PHRASE and one recording"));
+        return command.usageError(QStringLiteral("assess needs --text PHRASE and one recording"));
     const QString recording = parsed.positional.first();
     if (!QFileInfo(recording).isFile())
         return command.fail(QStringLiteral("assess: no recording at %1").arg(recording));
@@ -197,7 +199,7 @@ int runAssessCommand(const CommandLine &command)
         text, parsed.values.value(QStringLiteral("--ipa")), recording, acousticModelPath(parsed));
     // A recording that did not decode has been logged, in one line naming the file.
     if (assessment.failure == PhraseAssessment::Failure::Recording)
-        return 1;
+        return ExitStatus::BadInput;
     if (!assessment.succeeded())
         return command.fail(QStringLiteral("assess: ") + assessment.error);
     if (parsed.flags.contains(jsonFlag))
@@ -215,20 +217,21 @@ int runSpectrumCommand(const CommandLine &command)
     const ParsedArguments parsed =
         ParsedArguments::parse(command.arguments, {pngOption, hmmOption});
     if (!parsed.error.isEmpty())
-        return command.fail(QStringLiteral("spectrum: ") + parsed.error);
+        return command.usageError(QStringLiteral("spectrum: ") + parsed.error);
     const QString png = parsed.values.value(pngOption);
     if (parsed.positional.size() != 1 || png.isEmpty())
-        return command.fail(QStringLiteral("spectrum needs one recording and --png OUT"));
+        return command.usageError(QStringLiteral("spectrum needs one recording and --png OUT"));
     const QString recording = parsed.positional.first();
 
     if (!QFileInfo(recording).isFile())
         return command.fail(QStringLiteral("spectrum: no recording at %1").arg(recording));
-    AudioDataInfo audio;
+    std::vector<int16_t> samples;
+    const auto longest = static_cast<size_t>(VoPSRecognizer::longestRecordingSeconds * 16000);
+    const int32_t status = VoAudioUtil::decodeSpeechSamples(recording, samples, longest + 1);
     // The decoder has said what went wrong, in one line naming the file.
-    if (VoAudioUtil::decodeAudioDataFromFile(recording, audio) != 0)
-        return 1;
-    const std::vector<int16_t> samples = VoAudioUtil::getAudioDataShortForByte(audio);
-    if (static_cast<double>(samples.size()) / 16000.0 > VoPSRecognizer::longestRecordingSeconds)
+    if (status != 0 && status != AudioDecodeStatus::tooLarge)
+        return ExitStatus::BadInput;
+    if (status == AudioDecodeStatus::tooLarge)
         return command.fail(QStringLiteral("spectrum: %1 is longer than %2 s")
                                 .arg(recording)
                                 .arg(VoPSRecognizer::longestRecordingSeconds));
@@ -244,7 +247,7 @@ int runSpectrumCommand(const CommandLine &command)
     if (image.isNull())
         return command.fail(QStringLiteral("spectrum: %1 holds no frame").arg(recording));
     if (!image.save(png, "PNG"))
-        return command.fail(QStringLiteral("spectrum: can not write %1").arg(png));
+        return command.machineFailure(QStringLiteral("spectrum: can not write %1").arg(png));
     command.out << spectrum.frameCount << " frames, max log power "
                 << shortestFloatText(static_cast<float>(spectrum.maxPower)) << '\n';
     return 0;

@@ -21,14 +21,27 @@ const char *const usage =
     "  lm --name NAME --out DIR WORD... [--hmm DIR]\n"
     "  assess --text PHRASE RECORDING [--json] [--verbose] [--hmm DIR]\n"
     "  score --text PHRASE --words FILE.json [--json]\n"
-    "  spectrum RECORDING --png OUT [--hmm DIR]\n";
+    "  spectrum RECORDING --png OUT [--hmm DIR]\n"
+    "exit status: 0 done, 1 wrong usage, 2 bad input, 3 failure of the machine (disk, device)\n";
 
 } // namespace
+
+int CommandLine::usageError(const QString &message) const
+{
+    err << "tolvane-cli: " << message << Qt::endl;
+    return ExitStatus::WrongUsage;
+}
 
 int CommandLine::fail(const QString &message) const
 {
     err << "tolvane-cli: " << message << Qt::endl;
-    return 1;
+    return ExitStatus::BadInput;
+}
+
+int CommandLine::machineFailure(const QString &message) const
+{
+    err << "tolvane-cli: " << message << Qt::endl;
+    return ExitStatus::MachineFailure;
 }
 
 ParsedArguments ParsedArguments::parse(const QStringList &arguments,
@@ -73,8 +86,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("Tolvane"));
     QCoreApplication::setApplicationName(QStringLiteral("Tolvane"));
 
-    // A damaged course or record is bad input here: one line and a plain failure status.
-    setFatalAction([] { std::_Exit(1); });
+    // A damaged course or record is bad input here: one line and the bad-input status.
+    setFatalAction([] { std::_Exit(ExitStatus::BadInput); });
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
         QTextStream(stderr) << "tolvane-cli: " << message << Qt::endl;
     });
@@ -84,7 +97,7 @@ int main(int argc, char *argv[])
     QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.isEmpty() || arguments.first() == QLatin1String("--help")) {
         (arguments.isEmpty() ? err : out) << usage;
-        return arguments.isEmpty() ? 1 : 0;
+        return arguments.isEmpty() ? ExitStatus::WrongUsage : ExitStatus::Done;
     }
 
     const std::map<QString, int (*)(const CommandLine &)> commands{
@@ -102,7 +115,7 @@ int main(int argc, char *argv[])
     const auto command = commands.find(name);
     if (command == commands.end()) {
         err << "tolvane-cli: unknown command \"" << name << "\"\n" << usage;
-        return 1;
+        return ExitStatus::WrongUsage;
     }
     return command->second(CommandLine{arguments, out, err});
 }

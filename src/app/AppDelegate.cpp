@@ -5,16 +5,13 @@
 #include "RatingPrompt.h"
 #include "UserRecord.h"
 #include "content/AppCommon.h"
-#include "content/UserInfoFile.h"
 
 bool AppDelegate::didFinishLaunching()
 {
-    const UserInfoFile record;
-    if (!record.exists())
-        record.write(initialUserInfo());
+    openUserRecord();
     Preferences::instance().setPlaySpeed(Preferences::defaultPlaySpeed);
     (void)allPhrases();
-    record.increment(UserInfoKey::startCount);
+    incrementUserInfoCounter(UserInfoKey::startCount);
     // The prompt is never shown at launch: the main window asks once the learner comes back to
     // the main screen from a study screen.
     RatingPrompt &prompt = RatingPrompt::instance();

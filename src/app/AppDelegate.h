@@ -6,9 +6,10 @@
  */
 class AppDelegate {
 public:
-    /// Creates the record when missing (never extends an existing one), resets "playSpeed" to
-    /// 1.0 on purpose so a chosen speed lasts one run, loads every category and phrase, counts
-    /// the start, and counts a use of this version for the rating prompt.
+    /// Opens the record (creating it when missing, healing it when damaged, never extending a
+    /// whole one), resets "playSpeed" to 1.0 on purpose so a chosen speed lasts one run, loads
+    /// every category and phrase, counts the start, and counts a use of this version for the
+    /// rating prompt.
     bool didFinishLaunching();
 
     /// The phone keeps lock-screen controls alive here; the desktop has nothing to do.

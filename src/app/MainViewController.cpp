@@ -5,6 +5,7 @@
 MainViewController::MainViewController(QObject *parent)
     : QObject(parent)
     , m_experienceTotal(totalExperience())
+    , m_recordNotice(takeRecordNotice())
 {}
 
 void MainViewController::refresh()
@@ -14,4 +15,12 @@ void MainViewController::refresh()
         return;
     m_experienceTotal = total;
     Q_EMIT experienceTotalChanged();
+}
+
+void MainViewController::dismissRecordNotice()
+{
+    if (m_recordNotice.isEmpty())
+        return;
+    m_recordNotice.clear();
+    Q_EMIT recordNoticeChanged();
 }

@@ -4,7 +4,6 @@
 #include "UserRecord.h"
 #include "audio/PlaySound.h"
 #include "content/AppCommon.h"
-#include "content/UserInfoFile.h"
 #include "content/VoLog.h"
 
 #include <QFileInfo>

@@ -2,7 +2,6 @@
 
 #include "AppColors.h"
 #include "UserRecord.h"
-#include "content/UserInfoFile.h"
 
 void PhraseWriteController::setWordText(const QString &text)
 {

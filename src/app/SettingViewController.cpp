@@ -5,7 +5,6 @@
 #include "Preferences.h"
 #include "UserRecord.h"
 #include "content/AppCommon.h"
-#include "content/UserInfoFile.h"
 #include "content/VoFileUtil.h"
 
 #include <QHash>

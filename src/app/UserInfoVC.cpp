@@ -1,7 +1,6 @@
 #include "UserInfoVC.h"
 
 #include "UserRecord.h"
-#include "content/UserInfoFile.h"
 
 #include <QCoreApplication>
 #include <array>

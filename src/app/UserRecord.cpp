@@ -1,9 +1,12 @@
 #include "UserRecord.h"
 
-#include "content/UserInfoFile.h"
+#include "content/RecordWriter.h"
 #include "content/VoLog.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <array>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -17,6 +20,38 @@ const std::array<std::pair<const QString *, qint64>, 8> experienceWeights{{
     {&UserInfoKey::reviewed, 1000},
     {&UserInfoKey::awordScore, 1},
 }};
+
+std::unique_ptr<RecordWriter> &appRecord()
+{
+    static std::unique_ptr<RecordWriter> record;
+    return record;
+}
+
+QString &pendingNotice()
+{
+    static QString notice;
+    return notice;
+}
+
+QString noticeFor(const RecordOpening &opening)
+{
+    switch (opening.outcome) {
+    case RecordOpening::Outcome::RestoredPrevious:
+        return QCoreApplication::translate(
+            "UserRecord", "Your progress file was damaged, so Tolvane went back to the copy it "
+                          "kept. At most your last step is missing.");
+    case RecordOpening::Outcome::StartedFresh:
+        return QCoreApplication::translate(
+                   "UserRecord", "Your progress file was damaged and no good copy was left, so "
+                                 "Tolvane started your progress again. The damaged file is kept "
+                                 "as %1.")
+            .arg(QFileInfo(opening.setAsidePath).fileName());
+    case RecordOpening::Outcome::Read:
+    case RecordOpening::Outcome::Created:
+        break;
+    }
+    return {};
+}
 } // namespace
 
 QVariantMap initialUserInfo()
@@ -48,7 +83,57 @@ qint64 totalExperience()
     return totalExperience(readUserInfo());
 }
 
+RecordWriter &userRecord()
+{
+    if (!appRecord())
+        openUserRecord();
+    return *appRecord();
+}
+
+RecordOpening::Outcome openUserRecord()
+{
+    // The writer being replaced drains into the file before the file is read again.
+    appRecord().reset();
+    const UserInfoFile file;
+    RecordOpening opening = file.open(initialUserInfo());
+    pendingNotice() = noticeFor(opening);
+    appRecord() = std::make_unique<RecordWriter>(file, std::move(opening.record));
+    return opening.outcome;
+}
+
+QString takeRecordNotice()
+{
+    return std::exchange(pendingNotice(), QString());
+}
+
+bool flushUserRecord()
+{
+    return userRecord().flush();
+}
+
+QVariantMap readUserInfo()
+{
+    return userRecord().record();
+}
+bool writeUserInfo(const QVariantMap &dictionary)
+{
+    userRecord().replace(dictionary);
+    return userRecord().flush();
+}
+qint64 userInfoInt(const QString &key)
+{
+    return userRecord().value(key);
+}
+void setUserInfoInt(const QString &key, qint64 value)
+{
+    userRecord().set(key, value);
+}
+void incrementUserInfoCounter(const QString &key)
+{
+    userRecord().add({{key, 1}});
+}
+
 void recordQuizResult(int score)
 {
-    UserInfoFile().add({{UserInfoKey::quizCount, 1}, {UserInfoKey::quizTotalScore, score}});
+    userRecord().add({{UserInfoKey::quizCount, 1}, {UserInfoKey::quizTotalScore, score}});
 }

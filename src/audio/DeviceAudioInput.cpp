@@ -14,13 +14,21 @@ DeviceAudioInput::~DeviceAudioInput()
 
 QString DeviceAudioInput::start()
 {
-    const QAudioDevice device = QMediaDevices::defaultAudioInput();
-    if (device.isNull())
+    m_device = QMediaDevices::defaultAudioInput();
+    if (m_device.isNull())
         return QStringLiteral("there is no microphone");
-    m_format = device.preferredFormat();
+    m_format = m_device.preferredFormat();
     if (!m_format.isValid())
         return QStringLiteral("the microphone offers no usable format");
-    m_source = new QAudioSource(device, m_format, this);
+    m_source = new QAudioSource(m_device, m_format, this);
+    // Some systems keep a source on an unplugged device quietly running; the device list says it
+    // is gone.
+    if (!m_devices)
+        m_devices = new QMediaDevices(this);
+    connect(m_devices, &QMediaDevices::audioInputsChanged, this, [this] {
+        if (m_source && !QMediaDevices::audioInputs().contains(m_device))
+            Q_EMIT failed(QStringLiteral("the microphone was unplugged"));
+    });
     connect(m_source, &QAudioSource::stateChanged, this, &DeviceAudioInput::checkState);
     m_io = m_source->start();
     if (!m_io || m_source->error() != QAudio::NoError)

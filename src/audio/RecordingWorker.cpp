@@ -1,5 +1,8 @@
 #include "RecordingWorker.h"
 
+#include "AudioLog.h"
+#include "content/VoLog.h"
+
 #include <QCoreApplication>
 #include <QFile>
 
@@ -44,8 +47,24 @@ void RecordingWorker::start(quint64 session, const QString &path)
         return;
     }
     connect(m_input.get(), &AudioInput::frames, this, &RecordingWorker::write);
-    connect(m_input.get(), &AudioInput::failed, this,
-            [this](const QString &reason) { end(false, reason); });
+    connect(m_input.get(), &AudioInput::failed, this, &RecordingWorker::inputLost);
+    m_path = path;
+}
+
+// A take cut short by a microphone that went away is still worth comparing once it holds half a
+// second; a shorter one is no reading, and the learner is asked for another.
+void RecordingWorker::inputLost(const QString &reason)
+{
+    constexpr double shortestKeptSeconds = 0.5;
+    VoLog::write(lcAudio(), VoLog::Error, QStringLiteral("the input stopped: ") + reason);
+    if (m_writer->seconds() >= shortestKeptSeconds) {
+        end(true, {});
+        return;
+    }
+    end(false,
+        QCoreApplication::translate("VoAudioRecorder", "The microphone went away before you had "
+                                                       "said anything. Please record again."),
+        Take::Discard);
 }
 
 void RecordingWorker::stop()
@@ -65,7 +84,7 @@ void RecordingWorker::write(const QByteArray &pcm)
     raisePeak(m_writer->lastPeak());
 }
 
-void RecordingWorker::end(bool successfully, QString error)
+void RecordingWorker::end(bool successfully, QString error, Take take)
 {
     // The input may be the one calling: it is deleted once its signal has returned.
     m_input->disconnect(this);
@@ -76,6 +95,8 @@ void RecordingWorker::end(bool successfully, QString error)
         error = m_writer->error();
     }
     m_writer.reset();
+    if (take == Take::Discard)
+        QFile::remove(m_path);
     Q_EMIT ended(m_session, successfully, error);
 }
 

@@ -35,12 +35,15 @@ Q_SIGNALS:
 
 private:
     void write(const QByteArray &pcm);
-    void end(bool successfully, QString error);
+    void inputLost(const QString &reason);
+    enum class Take { Keep, Discard };
+    void end(bool successfully, QString error, Take take = Take::Keep);
     void raisePeak(float peak);
 
     AudioInputFactory m_factory;
     std::unique_ptr<AudioInput> m_input;
     std::unique_ptr<RecordingWriter> m_writer;
     quint64 m_session{0};
+    QString m_path;
     std::atomic<float> m_peak{0.0F};
 };

@@ -67,6 +67,7 @@ bool RecordingWriter::write(QByteArrayView pcm)
     }
     if (m_resampler->push(m_mono) != 0)
         return fail(QStringLiteral("cannot write the recording %1"));
+    m_frames += frames;
     return true;
 }
 

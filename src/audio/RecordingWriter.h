@@ -25,6 +25,12 @@ public:
     bool finish();
 
     [[nodiscard]] const QString &error() const { return m_error; }
+    /// Seconds of sound written so far.
+    [[nodiscard]] double seconds() const
+    {
+        return m_format.sampleRate() > 0 ? static_cast<double>(m_frames) / m_format.sampleRate()
+                                         : 0.0;
+    }
     /// The highest magnitude of channel 0 in the last write, 0 to 1 of full scale.
     [[nodiscard]] float lastPeak() const { return m_lastPeak; }
 
@@ -38,4 +44,5 @@ private:
     std::vector<float> m_mono;
     QString m_error;
     float m_lastPeak{0.0F};
+    qint64 m_frames{0};
 };

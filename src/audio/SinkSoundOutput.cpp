@@ -6,6 +6,7 @@
 #include "content/VoLog.h"
 
 #include <QAudioSink>
+#include <QMediaDevices>
 #include <functional>
 
 /// @brief The audio thread's side of a SinkSoundOutput: the stream, the device over it, the sink.
@@ -14,9 +15,11 @@ public:
     /// Called on the audio thread with the number of seeks done before the end, and whether the
     /// file played without damage.
     using EndReport = std::function<void(quint64 seeks, bool successfully)>;
+    /// Called on the audio thread when the device has gone away.
+    using LossReport = std::function<void()>;
 
     SinkWorker(std::unique_ptr<StretchedStream> stream, const QAudioDevice &device,
-               const QAudioFormat &format, EndReport report)
+               const QAudioFormat &format, EndReport report, LossReport lost)
         : m_stream(std::move(stream))
         , m_source(*m_stream,
                    format.sampleFormat() == QAudioFormat::Float
@@ -26,6 +29,7 @@ public:
         , m_device(device)
         , m_format(format)
         , m_report(std::move(report))
+        , m_lost(std::move(lost))
     {
         m_source.open(QIODevice::ReadOnly);
     }
@@ -42,6 +46,13 @@ public:
             m_sink = new QAudioSink(m_device, m_format, this);
             m_sink->setVolume(m_volume);
             connect(m_sink, &QAudioSink::stateChanged, this, [this] { checkEnd(); });
+            // Some systems keep a sink on an unplugged device quietly running; the device list
+            // says it is gone.
+            m_devices = new QMediaDevices(this);
+            connect(m_devices, &QMediaDevices::audioOutputsChanged, this, [this] {
+                if (!QMediaDevices::audioOutputs().contains(m_device))
+                    loseDevice();
+            });
         }
         if (m_sink->state() == QAudio::SuspendedState)
             m_sink->resume();
@@ -89,13 +100,27 @@ private:
         const bool broken = state == QAudio::StoppedState && m_sink->error() != QAudio::NoError;
         if (!drained && !broken)
             return;
-        if (broken && !drained)
+        if (broken && !drained) {
             VoLog::write(lcAudio(), VoLog::Error,
                          QStringLiteral("the sound device stopped playing (error %1)")
                              .arg(static_cast<int>(m_sink->error())));
+            loseDevice();
+            return;
+        }
         m_wanted = false;
         m_sink->stop();
-        m_report(m_seeks, drained && !m_stream->failed());
+        m_report(m_seeks, !m_stream->failed());
+    }
+
+    void loseDevice()
+    {
+        if (m_gone)
+            return;
+        m_gone = true;
+        m_wanted = false;
+        m_sink->disconnect(this);
+        m_sink->stop();
+        m_lost();
     }
 
     std::unique_ptr<StretchedStream> m_stream;
@@ -103,7 +128,10 @@ private:
     QAudioDevice m_device;
     QAudioFormat m_format;
     EndReport m_report;
+    LossReport m_lost;
     QAudioSink *m_sink{nullptr};
+    QMediaDevices *m_devices{nullptr};
+    bool m_gone{false};
     float m_volume{1.0F};
     quint64 m_seeks{0};
     /// Whether the player wants sound now: false while paused and after the end.
@@ -129,15 +157,18 @@ SinkSoundOutput::SinkSoundOutput(std::unique_ptr<StretchedStream> stream,
                                  QObject *parent)
     : SoundOutput(parent)
 {
-    m_worker = new SinkWorker(std::move(stream), device, format, [this](quint64 seeks, bool ok) {
-        QMetaObject::invokeMethod(
-            this,
-            [this, seeks, ok] {
-                if (seeks == m_seeks)
-                    Q_EMIT ended(ok);
-            },
-            Qt::QueuedConnection);
-    });
+    m_worker = new SinkWorker(
+        std::move(stream), device, format,
+        [this](quint64 seeks, bool ok) {
+            QMetaObject::invokeMethod(
+                this,
+                [this, seeks, ok] {
+                    if (seeks == m_seeks)
+                        Q_EMIT ended(ok);
+                },
+                Qt::QueuedConnection);
+        },
+        [this] { QMetaObject::invokeMethod(this, &SoundOutput::lost, Qt::QueuedConnection); });
     m_worker->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     m_thread.setObjectName(QStringLiteral("tolvane audio"));
@@ -185,4 +216,39 @@ void SinkSoundOutput::setVolume(float volume)
 void SinkSoundOutput::setExtraPlays(int plays)
 {
     post([plays](SinkWorker &worker) { worker.setExtraPlays(plays); });
+}
+
+namespace {
+DeviceOutputMaker &replacedMaker()
+{
+    static DeviceOutputMaker maker;
+    return maker;
+}
+} // namespace
+
+std::unique_ptr<SoundOutput> makeDeviceOutput(std::unique_ptr<StretchedStream> stream)
+{
+    if (replacedMaker())
+        return replacedMaker()(std::move(stream));
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    if (device.isNull()) {
+        VoLog::write(lcAudio(), VoLog::Progress,
+                     QStringLiteral("no sound device: playing silently"));
+        return nullptr;
+    }
+    const auto format = SinkSoundOutput::formatFor(device, *stream);
+    if (!format) {
+        VoLog::write(
+            lcAudio(), VoLog::Progress,
+            QStringLiteral("the sound device cannot take %1 channels at %2 Hz: playing "
+                           "silently")
+                .arg(QString::number(stream->channels()), QString::number(stream->sampleRate())));
+        return nullptr;
+    }
+    return std::make_unique<SinkSoundOutput>(std::move(stream), device, *format);
+}
+
+void setDeviceOutputMaker(DeviceOutputMaker maker)
+{
+    replacedMaker() = std::move(maker);
 }

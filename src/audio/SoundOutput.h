@@ -1,6 +1,10 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
+#include <memory>
+
+class StretchedStream;
 
 /**
  * @brief Where a player's sound goes: a device, or nowhere.
@@ -24,4 +28,17 @@ public:
 Q_SIGNALS:
     /// The last play has sounded to its end; false when the file proved damaged on the way.
     void ended(bool successfully);
+    /// The device went away mid-play; nothing more will sound or end here.
+    void lost();
 };
+
+/// Makes the output of a stream on the system's default sound device, or null when there is no
+/// device that takes it (the player then keeps time silently). Asked again whenever a device
+/// goes away, so that playback moves to whatever is the default then.
+using DeviceOutputMaker =
+    std::function<std::unique_ptr<SoundOutput>(std::unique_ptr<StretchedStream> stream)>;
+
+[[nodiscard]] std::unique_ptr<SoundOutput>
+makeDeviceOutput(std::unique_ptr<StretchedStream> stream);
+/// Replaces the system's devices, for tests; an empty maker restores them.
+void setDeviceOutputMaker(DeviceOutputMaker maker);

@@ -3,11 +3,8 @@
 #include "AudioLog.h"
 #include "PlaybackBounds.h"
 #include "SilentSoundOutput.h"
-#include "SinkSoundOutput.h"
 #include "StretchedStream.h"
 #include "content/VoLog.h"
-
-#include <QMediaDevices>
 
 namespace {
 
@@ -24,30 +21,52 @@ std::unique_ptr<TempoAudioPlayer> TempoAudioPlayer::open(const QString &path,
     auto stream = StretchedStream::open(path);
     if (!stream)
         return nullptr;
-    return std::unique_ptr<TempoAudioPlayer>(new TempoAudioPlayer(std::move(stream), destination));
+    return std::unique_ptr<TempoAudioPlayer>(
+        new TempoAudioPlayer(path, std::move(stream), destination));
 }
 
-TempoAudioPlayer::TempoAudioPlayer(std::unique_ptr<StretchedStream> stream,
+TempoAudioPlayer::TempoAudioPlayer(QString path, std::unique_ptr<StretchedStream> stream,
                                    SoundDestination destination)
     : m_clock(stream->duration())
+    , m_path(std::move(path))
+    , m_destination(destination)
 {
-    if (destination == SoundDestination::defaultDevice) {
-        const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-        const auto format =
-            device.isNull() ? std::nullopt : SinkSoundOutput::formatFor(device, *stream);
-        if (format)
-            m_output = std::make_unique<SinkSoundOutput>(std::move(stream), device, *format);
-        else if (device.isNull())
-            logProgress(QStringLiteral("no sound device: playing silently"));
-        else
-            logProgress(QStringLiteral("the sound device cannot take %1 channels at %2 Hz: "
-                                       "playing silently")
-                            .arg(QString::number(stream->channels()),
-                                 QString::number(stream->sampleRate())));
-    }
-    if (!m_output)
-        m_output = std::make_unique<SilentSoundOutput>(m_clock);
+    useOutput(makeOutput(std::move(stream)));
+}
+
+std::unique_ptr<SoundOutput> TempoAudioPlayer::makeOutput(std::unique_ptr<StretchedStream> stream)
+{
+    std::unique_ptr<SoundOutput> output;
+    if (m_destination == SoundDestination::defaultDevice && stream)
+        output = makeDeviceOutput(std::move(stream));
+    if (!output)
+        output = std::make_unique<SilentSoundOutput>(m_clock);
+    return output;
+}
+
+void TempoAudioPlayer::useOutput(std::unique_ptr<SoundOutput> output)
+{
+    m_output = std::move(output);
     connect(m_output.get(), &SoundOutput::ended, this, &TempoAudioPlayer::end);
+    connect(m_output.get(), &SoundOutput::lost, this, &TempoAudioPlayer::outputLost);
+}
+
+// The device went away mid-play: the same place, rate, loops and volume go on through whatever
+// is the default device now, or silently in time. A device that keeps failing is given up.
+void TempoAudioPlayer::outputLost()
+{
+    constexpr int lossesBeforeSilence = 3;
+    logProgress(QStringLiteral("the sound device went away: moving to the default one"));
+    // The lost output is the sender: it goes once its signal has returned.
+    m_output.release()->deleteLater();
+    ++m_losses;
+    useOutput(makeOutput(m_losses < lossesBeforeSilence ? StretchedStream::open(m_path) : nullptr));
+    m_output->setVolume(m_volume);
+    m_output->setRate(m_clock.rate());
+    m_output->setExtraPlays(playback::extraPlays(m_loops));
+    m_output->seek(m_clock.playThroughTime());
+    if (m_clock.isRunning())
+        m_output->play();
 }
 
 TempoAudioPlayer::~TempoAudioPlayer() = default;

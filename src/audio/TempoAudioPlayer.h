@@ -3,6 +3,7 @@
 #include "AudioPlayer.h"
 #include "PlaybackClock.h"
 
+#include <QString>
 #include <memory>
 
 class SoundOutput;
@@ -46,11 +47,18 @@ public:
     [[nodiscard]] int numberOfLoops() const override { return m_loops; }
 
 private:
-    TempoAudioPlayer(std::unique_ptr<StretchedStream> stream, SoundDestination destination);
+    TempoAudioPlayer(QString path, std::unique_ptr<StretchedStream> stream,
+                     SoundDestination destination);
+    [[nodiscard]] std::unique_ptr<SoundOutput> makeOutput(std::unique_ptr<StretchedStream> stream);
+    void useOutput(std::unique_ptr<SoundOutput> output);
+    void outputLost();
     void end(bool successfully);
 
     PlaybackClock m_clock;
+    QString m_path;
+    SoundDestination m_destination;
     std::unique_ptr<SoundOutput> m_output;
+    int m_losses{0};
     float m_volume{1.0F};
     int m_loops{0};
 };

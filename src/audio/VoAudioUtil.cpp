@@ -110,6 +110,45 @@ int32_t VoAudioUtil::decodeAudioDataFromFile(const QString &path, AudioDataInfo 
     return 0;
 }
 
+int32_t VoAudioUtil::decodeSpeechSamples(const QString &path, std::vector<int16_t> &samples,
+                                         size_t maxSamples)
+{
+    samples.clear();
+    SoundFileReader reader(path);
+    if (reader.openStatus() != 0)
+        return reader.openStatus();
+    const SF_INFO &info = reader.info();
+    const bool asStored = info.samplerate == Mono16kResampler::outputRate && info.channels == 1 &&
+                          reader.linearPcmBytesPerSample() == 2;
+    const auto append = [&](const int16_t *first, size_t count) {
+        if (count > maxSamples - samples.size())
+            return AudioDecodeStatus::tooLarge;
+        samples.insert(samples.end(), first, first + count);
+        return int32_t{0};
+    };
+    const int32_t status = asStored ? reader.readOwnFormat([&](QByteArrayView bytes) {
+        return append(reinterpret_cast<const int16_t *>(bytes.data()),
+                      static_cast<size_t>(bytes.size()) / sizeof(int16_t));
+    })
+                                    : reader.readConverted([&](std::span<const int16_t> chunk) {
+                                          return append(chunk.data(), chunk.size());
+                                      });
+    if (status == AudioDecodeStatus::tooLarge)
+        VoLog::write(lcAudio(), VoLog::Error,
+                     QStringLiteral("the file is longer than %1 s: %2")
+                         .arg(QString::number(static_cast<double>(maxSamples) /
+                                              Mono16kResampler::outputRate),
+                              path));
+    if (status == 0 && samples.empty()) {
+        VoLog::write(lcAudio(), VoLog::Error,
+                     QStringLiteral("the file holds no audio frames: %1").arg(path));
+        return AudioDecodeStatus::noAudio;
+    }
+    if (status != 0)
+        samples.clear();
+    return status;
+}
+
 // A record filled by hand may claim more bytes than it holds: the samples it lacks stay 0, so the
 // caller still gets the size / 2 samples it will hand on, and nothing is read past `data`.
 std::vector<int16_t> VoAudioUtil::getAudioDataShortForByte(const AudioDataInfo &info)

@@ -19,6 +19,13 @@ public:
     /// log line saying what failed and where. On failure the record is left as it was.
     static int32_t decodeAudioDataFromFile(const QString &path, AudioDataInfo &audioData);
 
+    /// Any sound file as the recogniser hears it: 16 kHz mono 16-bit samples, converted when the
+    /// file holds anything else (a 44.1 kHz stereo WAV too), taken as stored when it is already
+    /// that. A file longer than maxSamples gives AudioDecodeStatus::tooLarge. Status as
+    /// decodeAudioDataFromFile(); on failure the samples are left empty.
+    static int32_t decodeSpeechSamples(const QString &path, std::vector<int16_t> &samples,
+                                       size_t maxSamples);
+
     /// The bytes as native-order 16-bit samples, size / 2 of them.
     [[nodiscard]] static std::vector<int16_t> getAudioDataShortForByte(const AudioDataInfo &info);
 

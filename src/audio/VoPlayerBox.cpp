@@ -95,6 +95,19 @@ void VoPlayerBox::play(bool pressed)
         if (pressed)
             applyWrapRule();
     };
+    if (m_delayTimer.isActive()) {
+        // The pause between items counts as playing: play holds the next item back.
+        m_delayTimer.stop();
+        Q_EMIT waitingToStartChanged();
+        setPlayStatus(Paused);
+        resetBtnImage();
+        logProgress(QStringLiteral("paused before an item. "));
+        return;
+    }
+    if (m_playStatus == Paused && !m_pendingPath.isEmpty()) {
+        startPendingFile();
+        return;
+    }
     if (m_playStatus == Paused) {
         if (player)
             player->play();

@@ -22,8 +22,9 @@
  * Hosts follow the box through its signals (played, stopped, didFinishPlaying,
  * periodicTimeObserver). The pause between items (timeOfItemdelay) runs on a timer so the UI
  * keeps going, but the signals come in the order a host of a blocking wait would see them:
- * finish, stopped, the wait, played, then the ticks. While the wait runs the box shows as
- * finished, nothing ticks, and stop cancels the start.
+ * finish, stopped, the wait, played, then the ticks. While the wait runs the status is finished
+ * and nothing ticks, but the controls show the list playing: stop cancels the start, and play
+ * holds it (paused) until play is pressed again.
  */
 class VoPlayerBox : public QObject {
     Q_OBJECT

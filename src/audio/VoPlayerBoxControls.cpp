@@ -101,6 +101,15 @@ void VoPlayerBox::resetBtnImage()
     default:
         break;
     }
+    // The pause before an item belongs to playing the list: the learner can stop it or hold it.
+    if (m_delayTimer.isActive()) {
+        controls.playImage = QStringLiteral("vo_pause");
+        controls.stopEnabled = true;
+        controls.stopImage = QStringLiteral("vo_stop");
+    } else if (m_playStatus == Paused && !m_pendingPath.isEmpty()) {
+        controls.stopEnabled = true;
+        controls.stopImage = QStringLiteral("vo_stop");
+    }
     controls.lastEnabled = m_currItemIndex >= 1;
     controls.lastImage =
         controls.lastEnabled ? QStringLiteral("last_item") : QStringLiteral("last_item2");

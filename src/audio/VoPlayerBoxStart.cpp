@@ -84,6 +84,8 @@ void VoPlayerBox::startPendingFile()
 {
     if (shared().waiting == this)
         shared().waiting = nullptr;
+    if (m_delayTimer.isActive())
+        m_delayTimer.stop();
     Q_EMIT waitingToStartChanged();
     const std::function<void()> then = std::exchange(m_pendingThen, {});
     startFile(std::exchange(m_pendingPath, {}));
@@ -93,14 +95,16 @@ void VoPlayerBox::startPendingFile()
 
 void VoPlayerBox::cancelPendingStart()
 {
-    if (!m_delayTimer.isActive())
+    if (m_pendingPath.isEmpty())
         return;
+    const bool wasWaiting = m_delayTimer.isActive();
     m_delayTimer.stop();
     m_pendingPath.clear();
     m_pendingThen = {};
     if (shared().waiting == this)
         shared().waiting = nullptr;
-    Q_EMIT waitingToStartChanged();
+    if (wasWaiting)
+        Q_EMIT waitingToStartChanged();
 }
 
 void VoPlayerBox::startFile(const QString &path)

@@ -6,7 +6,36 @@
 #include "VoFileUtil.h"
 #include "VoLog.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
+
+namespace {
+
+QVariantMap decode(const QByteArray &bytes)
+{
+    auto cipher = TextHelpers::fromUtf8Strict(bytes);
+    auto plain = cipher ? VoCryptor::decryptWithDES(*cipher, VoCryptor::recordKey) : std::nullopt;
+    if (!plain)
+        return {};
+    return PlistCodec::dictionaryFromBytes(plain->toUtf8()).value_or(QVariantMap());
+}
+
+/// True when every key of `fresh` is there and holds an integer.
+bool isWhole(const QVariantMap &record, const QVariantMap &fresh)
+{
+    if (record.isEmpty())
+        return false;
+    for (auto it = fresh.cbegin(); it != fresh.cend(); ++it) {
+        bool isInteger = false;
+        (void)record.value(it.key()).toLongLong(&isInteger);
+        if (!isInteger)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
 
 UserInfoFile::UserInfoFile()
     : UserInfoFile(VoFileUtil::getDocumentsDirectory() + QStringLiteral("userInfo.plist"))
@@ -23,19 +52,67 @@ bool UserInfoFile::exists() const
 
 QVariantMap UserInfoFile::read() const
 {
-    auto bytes = VoFileUtil::readFile(m_path);
-    auto cipher = bytes ? TextHelpers::fromUtf8Strict(*bytes) : std::nullopt;
-    auto plain = cipher ? VoCryptor::decryptWithDES(*cipher, VoCryptor::recordKey) : std::nullopt;
-    if (!plain)
-        return {};
-    return PlistCodec::dictionaryFromBytes(plain->toUtf8()).value_or(QVariantMap());
+    const auto bytes = VoFileUtil::readFile(m_path);
+    return bytes ? decode(*bytes) : QVariantMap();
 }
 
 bool UserInfoFile::write(const QVariantMap &dictionary) const
 {
+    // Only a record that reads back is worth keeping: copying a damaged one over the previous
+    // copy would throw away the good record that healing needs.
+    if (const auto bytes = VoFileUtil::readFile(m_path); bytes && !decode(*bytes).isEmpty())
+        VoFileUtil::writeFileAtomically(previousPath(), *bytes);
+    // Synced: the writer's thread waits for the disk, not the learner, and a power cut then
+    // costs at most the change being written.
     const QString plain = QString::fromUtf8(PlistCodec::toXml(dictionary));
     return VoFileUtil::writeFileAtomically(
-        m_path, VoCryptor::encryptWithDES(plain, VoCryptor::recordKey).toUtf8());
+        m_path, VoCryptor::encryptWithDES(plain, VoCryptor::recordKey).toUtf8(),
+        VoFileUtil::Sync::ToDisk);
+}
+
+QString UserInfoFile::setAside() const
+{
+    const QString stem = m_path + QStringLiteral(".damaged-") +
+                         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString target = stem;
+    for (int n = 2; QFileInfo::exists(target); ++n)
+        target = stem + QStringLiteral("-%1").arg(n);
+    if (!QFile::rename(m_path, target)) {
+        VoLog::write(lcContent(), VoLog::Error,
+                     QStringLiteral("cannot move the damaged record %1 aside").arg(m_path));
+        return {};
+    }
+    return target;
+}
+
+RecordOpening UserInfoFile::open(const QVariantMap &fresh) const
+{
+    const QVariantMap current = read();
+    if (isWhole(current, fresh))
+        return {current, RecordOpening::Outcome::Read, {}};
+
+    const bool present = exists();
+    const bool hadPrevious = QFileInfo::exists(previousPath());
+    RecordOpening opening{fresh, RecordOpening::Outcome::Created, {}};
+    if (present)
+        opening.setAsidePath = setAside();
+    if (const QVariantMap previous = UserInfoFile(previousPath()).read();
+        isWhole(previous, fresh)) {
+        opening.record = previous;
+        opening.outcome = RecordOpening::Outcome::RestoredPrevious;
+    } else if (present || hadPrevious) {
+        opening.outcome = RecordOpening::Outcome::StartedFresh;
+    }
+    if (opening.outcome != RecordOpening::Outcome::Created)
+        VoLog::write(lcContent(), VoLog::Error,
+                     QStringLiteral("the user record %1 was damaged; %2")
+                         .arg(m_path, opening.outcome == RecordOpening::Outcome::RestoredPrevious
+                                          ? QStringLiteral("its previous copy took its place")
+                                          : QStringLiteral("a fresh record took its place")));
+    if (!write(opening.record))
+        VoLog::write(lcContent(), VoLog::Error,
+                     QStringLiteral("cannot write the user record %1").arg(m_path));
+    return opening;
 }
 
 qint64 UserInfoFile::intFrom(const QVariantMap &dictionary, const QString &key,
@@ -54,6 +131,17 @@ qint64 UserInfoFile::intFrom(const QVariantMap &dictionary, const QString &key,
     return value;
 }
 
+void UserInfoFile::addTo(QVariantMap &dictionary, CounterAmounts amounts, const QString &origin)
+{
+    for (const auto &[key, amount] : amounts) {
+        qint64 sum = 0;
+        if (__builtin_add_overflow(intFrom(dictionary, key, origin), amount, &sum))
+            fatal(appCommonSource, __LINE__,
+                  QStringLiteral("the user record %1 overflows under \"%2\"").arg(origin, key));
+        dictionary.insert(key, sum);
+    }
+}
+
 qint64 UserInfoFile::intValue(const QString &key) const
 {
     return intFrom(read(), key, m_path);
@@ -66,36 +154,9 @@ void UserInfoFile::setInt(const QString &key, qint64 value) const
     write(dictionary);
 }
 
-void UserInfoFile::add(std::initializer_list<std::pair<QString, qint64>> amounts) const
+void UserInfoFile::add(CounterAmounts amounts) const
 {
     QVariantMap dictionary = read();
-    for (const auto &[key, amount] : amounts) {
-        qint64 sum = 0;
-        if (__builtin_add_overflow(intFrom(dictionary, key, m_path), amount, &sum))
-            fatal(appCommonSource, __LINE__,
-                  QStringLiteral("the user record %1 overflows under \"%2\"").arg(m_path, key));
-        dictionary.insert(key, sum);
-    }
+    addTo(dictionary, amounts, m_path);
     write(dictionary);
-}
-
-QVariantMap readUserInfo()
-{
-    return UserInfoFile().read();
-}
-bool writeUserInfo(const QVariantMap &dictionary)
-{
-    return UserInfoFile().write(dictionary);
-}
-qint64 userInfoInt(const QString &key)
-{
-    return UserInfoFile().intValue(key);
-}
-void setUserInfoInt(const QString &key, qint64 value)
-{
-    UserInfoFile().setInt(key, value);
-}
-void incrementUserInfoCounter(const QString &key)
-{
-    UserInfoFile().increment(key);
 }

@@ -12,6 +12,7 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 #include <cstdio>
+#include <unistd.h>
 
 namespace {
 QString folderWithSlash(QStandardPaths::StandardLocation location)
@@ -87,16 +88,17 @@ std::optional<QByteArray> VoFileUtil::readFile(const QString &path)
     return file.readAll();
 }
 
-bool VoFileUtil::writeFileAtomically(const QString &path, const QByteArray &contents)
+bool VoFileUtil::writeFileAtomically(const QString &path, const QByteArray &contents, Sync sync)
 {
     QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
     if (!file.open() || file.write(contents) != contents.size() || !file.flush())
         return false;
+    if (sync == Sync::ToDisk && ::fdatasync(file.handle()) != 0)
+        return false;
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup |
                         QFileDevice::ReadOther);
     // rename() replaces the old file in one step, so a reader or a crash sees the old contents
-    // or the new ones, never a mix. There is no fsync: it costs milliseconds on every counter,
-    // and ext4 already orders the data of a replaced file before the rename.
+    // or the new ones, never a mix.
     if (std::rename(QFile::encodeName(file.fileName()).constData(),
                     QFile::encodeName(path).constData()) != 0)
         return false;

@@ -29,6 +29,9 @@ public:
     static void removeFileInFolder(const QString &path);
 
     [[nodiscard]] static std::optional<QByteArray> readFile(const QString &path);
+    /// Whether a write waits until its data is on the disk, beyond the reach of a power cut.
+    enum class Sync { No, ToDisk };
     /// Replaces the file whole or not at all, so a crash mid-write leaves the old file intact.
-    static bool writeFileAtomically(const QString &path, const QByteArray &contents);
+    static bool writeFileAtomically(const QString &path, const QByteArray &contents,
+                                    Sync sync = Sync::No);
 };

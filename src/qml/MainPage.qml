@@ -148,6 +148,40 @@ BasePage {
                 }
             }
 
+            // Said once, on the start that healed a damaged record.
+            Rectangle {
+                objectName: "recordNotice"
+                visible: controller.recordNotice !== ""
+                x: page.margin
+                width: parent.width - 2 * page.margin
+                height: visible ? noticeText.implicitHeight + 2 * page.margin : 0
+                radius: 8 * LayoutMetrics.scaleX
+                color: "#fff4d6"
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: controller.recordNotice
+
+                VoLabel {
+                    id: noticeText
+                    objectName: "recordNoticeText"
+                    anchors.left: parent.left
+                    anchors.right: dismiss.left
+                    anchors.margins: page.margin
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: controller.recordNotice
+                    font.pixelSize: 14 * page.textScale
+                    color: AppColors.text
+                }
+                Button {
+                    id: dismiss
+                    objectName: "recordNoticeDismiss"
+                    anchors.right: parent.right
+                    anchors.rightMargin: page.margin / 2
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: qsTr("OK")
+                    onClicked: controller.dismissRecordNotice()
+                }
+            }
+
             Button {
                 id: quizzesButton
                 objectName: "quizzesButton"

@@ -81,16 +81,19 @@ PhraseAssessment assessSamples(VoPSRecognizer &recognizer, ReadingVerifier &veri
 PhraseAssessment assessWithModel(VoPSRecognizer &recognizer, ReadingVerifier &verifier,
                                  const ReadingTarget &target, const QString &recordingPath)
 {
-    AudioDataInfo audio;
-    if (VoAudioUtil::decodeAudioDataFromFile(recordingPath, audio) != 0) {
+    // Twice the longest reading is read, so that the recogniser's own length check, not the
+    // decoder, tells the learner how long a too-long recording is.
+    constexpr auto readAtMost =
+        static_cast<size_t>(2 * VoPSRecognizer::longestRecordingSeconds * 16000);
+    std::vector<int16_t> samples;
+    if (VoAudioUtil::decodeSpeechSamples(recordingPath, samples, readAtMost) != 0) {
         VoLog::write(
             lcSpeech(), VoLog::Error,
             QStringLiteral(" can not decode audio data from the file: %1").arg(recordingPath));
         return failed(PhraseAssessment::Failure::Recording,
                       QStringLiteral("%1 could not be decoded").arg(recordingPath));
     }
-    return assessSamples(recognizer, verifier, target,
-                         VoAudioUtil::getAudioDataShortForByte(audio));
+    return assessSamples(recognizer, verifier, target, std::move(samples));
 }
 
 PhraseAssessment assessRecording(const QString &phrase, const QString &ipa,

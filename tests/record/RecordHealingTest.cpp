@@ -1,0 +1,139 @@
+#include "AppWindow.h"
+#include "app/UserRecord.h"
+#include "content/RecordWriter.h"
+#include "content/VoCryptor.h"
+#include "content/VoFileUtil.h"
+
+#include <QDir>
+#include <QFile>
+#include <QQuickItem>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using Outcome = RecordOpening::Outcome;
+
+namespace {
+
+QVariantMap recordWith(qint64 starts)
+{
+    QVariantMap record = initialUserInfo();
+    record.insert(UserInfoKey::startCount, starts);
+    return record;
+}
+
+QByteArray bytesOf(const QVariantMap &record)
+{
+    QTemporaryDir folder;
+    const UserInfoFile file(folder.filePath(u"r"_s));
+    EXPECT_TRUE(file.write(record));
+    return VoFileUtil::readFile(file.path()).value_or(QByteArray());
+}
+
+QStringList damagedCopies(const QString &folder)
+{
+    return QDir(folder).entryList({u"userInfo.plist.damaged-*"_s}, QDir::Files);
+}
+
+} // namespace
+
+// Every way a record file can be spoiled, with and without the copy the last write kept: the
+// record that comes back, what the app is to say, and that the damaged bytes are kept aside.
+TEST(RecordHealing, DamagedRecordsComeBackFromTheKeptCopyOrFresh)
+{
+    const QByteArray whole = bytesOf(recordWith(7));
+    QVariantMap lacking = recordWith(7);
+    lacking.remove(UserInfoKey::quizCount);
+    const QByteArray cipherOfText =
+        VoCryptor::encryptWithDES(u"not a property list"_s, VoCryptor::recordKey).toUtf8();
+    const std::vector<std::pair<const char *, QByteArray>> damages{
+        {"garbage", QByteArray("\x01\xff garbage \x80", 12)},
+        {"truncated", whole.left(whole.size() / 2)},
+        {"emptied", QByteArray()},
+        {"lacking a key", bytesOf(lacking)},
+        {"deciphered to no plist", cipherOfText},
+    };
+    for (const auto &[what, damaged] : damages) {
+        for (const bool keptCopy : {true, false}) {
+            SCOPED_TRACE(std::string(what) + (keptCopy ? ", copy kept" : ", no copy"));
+            const QTemporaryDir folder;
+            const UserInfoFile file(folder.filePath(u"userInfo.plist"_s));
+            ASSERT_TRUE(VoFileUtil::writeFileAtomically(file.path(), damaged));
+            if (keptCopy) {
+                ASSERT_TRUE(
+                    VoFileUtil::writeFileAtomically(file.previousPath(), bytesOf(recordWith(5))));
+            }
+
+            const RecordOpening opening = file.open(initialUserInfo());
+            EXPECT_EQ(opening.outcome,
+                      keptCopy ? Outcome::RestoredPrevious : Outcome::StartedFresh);
+            EXPECT_EQ(opening.record.value(UserInfoKey::startCount).toLongLong(), keptCopy ? 5 : 0);
+            EXPECT_EQ(file.read(), opening.record);
+            ASSERT_EQ(damagedCopies(folder.path()).size(), 1);
+            EXPECT_EQ(VoFileUtil::readFile(opening.setAsidePath), damaged);
+            // A second start finds the healed record whole.
+            EXPECT_EQ(file.open(initialUserInfo()).outcome, Outcome::Read);
+        }
+    }
+}
+
+// The kept copy is the record before the last write, and a damaged file never replaces it.
+TEST(RecordHealing, EachWriteKeepsTheRecordItReplaces)
+{
+    const QTemporaryDir folder;
+    const UserInfoFile file(folder.filePath(u"userInfo.plist"_s));
+    EXPECT_EQ(file.open(initialUserInfo()).outcome, Outcome::Created);
+    ASSERT_TRUE(file.write(recordWith(1)));
+    ASSERT_TRUE(file.write(recordWith(2)));
+    EXPECT_EQ(UserInfoFile(file.previousPath()).read(), recordWith(1));
+
+    ASSERT_TRUE(VoFileUtil::writeFileAtomically(file.path(), "damaged"));
+    ASSERT_TRUE(file.write(recordWith(3)));
+    EXPECT_EQ(UserInfoFile(file.previousPath()).read(), recordWith(1));
+    EXPECT_EQ(file.read(), recordWith(3));
+}
+
+// Changes from two threads all arrive, and whatever is pending when the writer goes is written.
+TEST(RecordWriter, KeepsEveryChangeAndDrainsWhenItGoes)
+{
+    const QTemporaryDir folder;
+    const UserInfoFile file(folder.filePath(u"userInfo.plist"_s));
+    constexpr int perThread = 2000;
+    {
+        RecordWriter writer(file, initialUserInfo());
+        std::thread other([&] {
+            for (int i = 0; i < perThread; ++i)
+                writer.add({{UserInfoKey::listenCount, 1}});
+        });
+        for (int i = 0; i < perThread; ++i)
+            writer.add({{UserInfoKey::listenCount, 1}, {UserInfoKey::readCount, 2}});
+        other.join();
+        EXPECT_EQ(writer.value(UserInfoKey::listenCount), 2 * perThread);
+    }
+    EXPECT_EQ(file.intValue(UserInfoKey::listenCount), 2 * perThread);
+    EXPECT_EQ(file.intValue(UserInfoKey::readCount), 2 * perThread);
+}
+
+// The app opens over a garbage record, shows the main screen, and says once what it did.
+TEST(RecordHealing, TheAppOpensOverAGarbageRecordAndSaysSoOnce)
+{
+    const UserInfoFile file;
+    QDir().mkpath(QFileInfo(file.path()).path());
+    ASSERT_TRUE(VoFileUtil::writeFileAtomically(file.path(), "garbage"));
+    {
+        AppWindow app;
+        QQuickItem *notice = findItem(app.currentPage(), u"recordNotice"_s);
+        ASSERT_NE(notice, nullptr);
+        EXPECT_TRUE(notice->isVisible());
+        const QString text = findItem(notice, u"recordNoticeText"_s)->property("text").toString();
+        EXPECT_TRUE(text.contains(u"started your progress again"_s)) << qPrintable(text);
+        EXPECT_TRUE(text.contains(u"userInfo.plist.damaged-"_s)) << qPrintable(text);
+        EXPECT_EQ(userInfoInt(UserInfoKey::startCount), 1);
+        (void)app.screenshot(u"record-healed-notice"_s);
+        app.tapCentre(findItem(notice, u"recordNoticeDismiss"_s));
+        EXPECT_FALSE(notice->isVisible());
+    }
+    AppWindow again;
+    EXPECT_FALSE(findItem(again.currentPage(), u"recordNotice"_s)->isVisible());
+}

@@ -14,8 +14,8 @@
  * in SphinxBase's binary format.
  *
  * A trainer serves one generation and runs synchronously. For a model named N it writes, in
- * lmBasePath(), N.dic, N.arpa and N.DMP, and removes its intermediate files. The toolkit step
- * keeps process-wide counters, so two generations must never run at the same time.
+ * lmBasePath(), N.dic, N.arpa and N.DMP, and removes its intermediate files. Generations of
+ * different names may run at once: the toolkit's steps keep no state between calls.
  */
 class VoLanguageModelTrainer {
 public:

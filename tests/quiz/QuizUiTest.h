@@ -14,7 +14,7 @@
 
 /**
  * @brief The app with a silent player, and a quiz screen pushed onto it as the quiz menu pushes
- * it; the quiz kinds' UI tests derive from it. QuizCourse.h brings askedOption() and answer().
+ * it; the quiz kinds' UI tests derive from it. QuizCourse.h brings askedOption() and wrongOption().
  */
 class QuizUiTest : public ::testing::Test {
 protected:
@@ -47,13 +47,14 @@ protected:
     }
 };
 
-/// Installs QuizCourse before the app starts, so that the app shows it, in English whatever
-/// a test before left.
+/// Installs QuizCourse before the app starts, so that the app shows it, in English and with
+/// the usual minute whatever a test before left.
 struct QuizCourseFirst {
     QuizCourseFirst()
     {
         QuizCourse::install();
         Preferences::instance().setLanguageType(QStringLiteral("en"));
+        Preferences::instance().setTestDuration(Preferences::defaultTestDuration);
     }
 };
 

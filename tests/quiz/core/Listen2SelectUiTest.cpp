@@ -1,4 +1,5 @@
 #include "quiz/Listen2SelectVC.h"
+#include "quiz/QuizOutlineVC.h"
 #include "quiz/QuizUiTest.h"
 
 #include <QQuickWindow>
@@ -22,10 +23,25 @@ QColor colour(const QQuickItem *item)
 
 } // namespace
 
-TEST_F(Listen2SelectUiTest, PlaysASessionByTapsAndKeysThenLeavesTheNextHalfWay)
+// From a category's screen through the unit quiz menu, as the learner goes.
+TEST_F(Listen2SelectUiTest, PlaysAUnitQuizFromTheMenuThenLeavesAnotherHalfWay)
 {
-    auto *quiz = pushQuiz<Listen2SelectVC>(u"Listen2SelectPage.qml"_s, u"categoryId: \"1\""_s);
+    app.tapCentre(AppWindow::listRow(item(u"categoryList"_s), 0));
+    ASSERT_TRUE(app.waitForDepth(2));
+    app.tapCentre(findItem(app.window()->contentItem(), u"unitQuizButton"_s));
+    ASSERT_TRUE(app.waitForDepth(3));
+    EXPECT_EQ(app.currentPage()->findChild<QuizOutlineVC *>()->titleText(), u"Unit Quiz"_s);
+    (void)app.screenshot(u"quiz-menu"_s);
+    app.tapCentre(item(u"quizButton5"_s));
+    ASSERT_TRUE(app.waitForDepth(4));
+    EXPECT_TRUE(app.currentPage()->property("foreign2Mother").toBool());
+    QTest::keyClick(app.window(), Qt::Key_Escape);
+    ASSERT_TRUE(app.waitForDepth(3));
+    app.tapCentre(item(u"quizButton1"_s));
+    ASSERT_TRUE(app.waitForDepth(4));
+    auto *quiz = app.currentPage()->findChild<Listen2SelectVC *>();
     ASSERT_NE(quiz, nullptr);
+    ASSERT_EQ(quiz->categoryInfo()->id, u"1"_s);
     EXPECT_EQ(text(u"toolBarTitle"_s), u"Listen And Select"_s);
     EXPECT_EQ(text(u"limitedTimeLbl"_s), u"01:00"_s);
     app.tapCentre(item(u"loudspeakerButton"_s));
@@ -95,9 +111,10 @@ TEST_F(Listen2SelectUiTest, PlaysASessionByTapsAndKeysThenLeavesTheNextHalfWay)
     QQuickItem *row2 = AppWindow::listRow(table, 2);
     app.tapCentre(row2);
     EXPECT_EQ(colour(row2), QColor(Qt::white));
-    QTest::keyClick(app.window(), Qt::Key_Escape);
-    ASSERT_TRUE(app.waitForDepth(1));
-
+    for (int depth : {3, 2, 1}) {
+        QTest::keyClick(app.window(), Qt::Key_Escape);
+        ASSERT_TRUE(app.waitForDepth(depth));
+    }
     leaveHalfWay<Listen2SelectVC>(u"Listen2SelectPage.qml"_s);
     expectOneQuizRecorded(80);
 }

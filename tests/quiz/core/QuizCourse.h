@@ -80,17 +80,6 @@ inline int wrongOption(const BaseQuizViewController &quiz)
     return -1;
 }
 
-/// Answers the current question right (true) or submits it without a choice (false).
-inline void answer(BaseQuizViewController &quiz, bool right)
-{
-    if (right) {
-        const int slot = askedOption(quiz);
-        ASSERT_GE(slot, 0);
-        quiz.selectOption(slot);
-    }
-    quiz.submitAction();
-}
-
 /// A fresh record and English as the learner's language before each test.
 class QuizTest : public ::testing::Test {
 protected:

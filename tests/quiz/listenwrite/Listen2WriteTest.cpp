@@ -1,6 +1,8 @@
 #include "quiz/Listen2WriteVC.h"
 #include "quiz/QuizUiTest.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QQuickWindow>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -8,8 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Listen2WriteTest = QuizTest;
 
 class Listen2WriteUiTest : public QuizCourseUiTest {
 protected:
@@ -23,26 +23,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(Listen2WriteTest, AHugeAnswerIsKeptAsTypedAndTextNeverSubmittedIsNoAnswer)
-{
-    Listen2WriteVC quiz(random);
-    quiz.setupQuiz(10, u"Listen And Write"_s, u"1"_s, 1);
-    quiz.viewDidLoad();
-    const QString huge = u"Ж"_s.repeated(100000);
-    quiz.setTextField(huge);
-    quiz.submitAction();
-    quiz.setTextField(quiz.phraseInfos().at(1)->content);
-    while (!quiz.finished())
-        quiz.tick();
-
-    EXPECT_EQ(quiz.score(), 0);
-    EXPECT_EQ(quizCount(), 1);
-    const QuizResultModel &results = *quiz.results();
-    EXPECT_EQ(results.row(0).testText, huge);
-    EXPECT_EQ(results.row(0).testTextColor, QuizResultModel::wrongColor());
-    EXPECT_EQ(results.row(1).testText, u"-"_s);
-}
 
 TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
 {
@@ -61,7 +41,8 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     EXPECT_TRUE(players.last->isPlaying());
 
     // Right: in capitals with Return, as written with Submit. Wrong: a full stop more or less,
-    // a blank more. The rest empty, one after a tap beside the controls put the keyboard away.
+    // a blank more, a long paste. The rest empty, one after a tap beside the
+    // controls put the keyboard away.
     QStringList typed;
     for (int i = 0; i < 10; ++i) {
         ASSERT_EQ(quiz->currIndex(), i);
@@ -70,8 +51,14 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
                      : i == 1 ? asked
                      : i == 2 ? (asked.endsWith(u'.') ? asked.chopped(1) : asked + u'.')
                      : i == 3 ? asked + u' '
+                     : i == 4 ? u"Ж"_s.repeated(3000)
                               : QString());
-        type(typed.constLast());
+        if (i == 4) {
+            QGuiApplication::clipboard()->setText(typed.constLast());
+            QTest::keyClick(app.window(), Qt::Key_V, Qt::ControlModifier);
+        } else {
+            type(typed.constLast());
+        }
         EXPECT_EQ(field->property("text").toString(), typed.constLast());
         if (i == 0)
             (void)app.screenshot(u"listen-write-question"_s);
@@ -94,8 +81,6 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     }
 
     ASSERT_TRUE(quiz->finished());
-    EXPECT_EQ(text(u"quizStatusLbl"_s), u"Over"_s);
-    EXPECT_EQ(text(u"progressLbl"_s), u"Progress: 10/10"_s);
     expectScoreLabel(20, "#b0171f");
     EXPECT_FALSE(field->isVisible());
     EXPECT_FALSE(item(u"submitBtn"_s)->isVisible());
@@ -103,8 +88,8 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
 
     QQuickItem *table = item(u"resultTable"_s);
     ASSERT_TRUE(table->isVisible());
-    for (int i = 0; i < 5; ++i)
-        expectAnswer(i, i < 4 ? typed.at(i) : u"-"_s, i < 2);
+    for (int i = 0; i < 6; ++i)
+        expectAnswer(i, i < 5 ? typed.at(i) : u"-"_s, i < 2);
     (void)app.screenshot(u"listen-write-results"_s);
     app.tapCentre(AppWindow::listRow(table, 1));
     EXPECT_EQ(players.requested.constLast(), soundPath(*quiz->phraseInfos().at(1)));

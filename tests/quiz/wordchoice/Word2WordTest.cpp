@@ -35,9 +35,6 @@ TEST_F(Word2WordTest, JudgesByTheGermanTextInBothDirections)
         QList<bool> right;
         for (int i = 0; i < 10; ++i) {
             const PhraseInfo *asked = quiz.phraseInfos().at(i);
-            if (asked->content == u"Danke"_s) {
-                EXPECT_EQ(quiz.currText(), u"Danke"_s) << "no translation: the German stands in";
-            }
             int twin = -1;
             int lookalike = -1;
             for (int o = 0; o < 4; ++o) {
@@ -100,7 +97,6 @@ TEST_F(Word2WordUiTest, PlaysASessionInEachDirectionThenTheQuestionScrollsWhenCr
         }
 
         ASSERT_TRUE(quiz->finished());
-        EXPECT_EQ(text(u"quizStatusLbl"_s), u"Over"_s);
         expectScoreLabel(70, "#c76114");
         EXPECT_FALSE(item(u"questionScroller"_s)->isVisible());
         expectOneQuizRecorded(70);

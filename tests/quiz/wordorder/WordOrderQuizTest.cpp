@@ -125,8 +125,6 @@ TEST_F(WordOrderQuizUiTest, PlaysASessionByMouseAndKeysThenALongPhraseWrapsInThe
     }
 
     ASSERT_TRUE(quiz->finished());
-    EXPECT_EQ(text(u"quizStatusLbl"_s), u"Over"_s);
-    EXPECT_EQ(text(u"progressLbl"_s), u"Progress: 10/10"_s);
     expectScoreLabel(90, "#2e8b57");
     EXPECT_FALSE(item(u"wordOrderAdjustView"_s)->isVisible());
     expectOneQuizRecorded(90);
@@ -142,9 +140,8 @@ TEST_F(WordOrderQuizUiTest, PlaysASessionByMouseAndKeysThenALongPhraseWrapsInThe
 
     // The work area alone, with a phrase too long for one row, shown last word first.
     WordOrderBoard longBoard;
-    const QStringList words{u"Entschuldigung"_s, u"können"_s, u"Sie"_s, u"mir"_s, u"bitte"_s,
-                            u"sagen"_s,          u"wie"_s,    u"ich"_s, u"zum"_s, u"Hauptbahnhof"_s,
-                            u"komme"_s};
+    const QStringList words =
+        u"Entschuldigung können Sie mir bitte sagen wie ich zum Hauptbahnhof komme"_s.split(u' ');
     longBoard.setWords(words, QStringList(words.crbegin(), words.crend()));
     const auto view =
         app.createView(u"WordOrderBoardView.qml"_s, {{u"board"_s, QVariant::fromValue(&longBoard)},

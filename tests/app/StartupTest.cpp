@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QSettings>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace {
 
@@ -23,41 +24,35 @@ protected:
 
     static bool start() { return AppDelegate().didFinishLaunching(); }
 };
+using StartupDeathTest = StartupTest;
 
 } // namespace
 
-TEST_F(StartupTest, FirstStartCreatesTheRecordAndLoadsTheCourse)
+TEST_F(StartupTest, FirstStartCreatesTheRecordAndLaterStartsKeepWhatWasEarned)
 {
     ASSERT_TRUE(start());
-    QVariantMap expected = initialUserInfo();
-    expected[UserInfoKey::startCount] = qint64{1};
-    EXPECT_EQ(readUserInfo(), expected);
-    EXPECT_EQ(expected.size(), 10);
-    EXPECT_EQ(totalExperience(), 10);
+    // Older records hold these names: a renamed one would be a missing counter.
+    const QVariantMap first = readUserInfo();
+    EXPECT_EQ(first.keys(),
+              (QStringList{u"kAdvised"_s, u"kAwordScore"_s, u"kListenCount"_s, u"kQuizCount"_s,
+                           u"kQuizTotalScore"_s, u"kReadCount"_s, u"kReviewed"_s, u"kStartCount"_s,
+                           u"kWriteCount"_s, u"kshared"_s}));
+    for (auto it = first.cbegin(); it != first.cend(); ++it)
+        EXPECT_EQ(it.value().toLongLong(), it.key() == UserInfoKey::startCount ? 1 : 0)
+            << qPrintable(it.key());
     for (const CategoryInfo *category : loadAllCategories())
         EXPECT_TRUE(category->phraseInfoList) << qPrintable(category->id);
-}
 
-TEST_F(StartupTest, LaterStartsKeepWhatWasEarned)
-{
-    ASSERT_TRUE(start());
+    // The chosen play speed lasts one run.
+    Preferences::instance().setPlaySpeed(0.5F);
     recordQuizResult(70);
     incrementUserInfoCounter(UserInfoKey::listenCount);
     ASSERT_TRUE(start());
+    EXPECT_EQ(Preferences::instance().playSpeed(), 1.0F);
     EXPECT_EQ(userInfoInt(UserInfoKey::startCount), 2);
     EXPECT_EQ(userInfoInt(UserInfoKey::quizCount), 1);
     EXPECT_EQ(userInfoInt(UserInfoKey::quizTotalScore), 70);
     EXPECT_EQ(totalExperience(), 20 + 10 + 70 + 5);
-}
-
-TEST_F(StartupTest, ChosenPlaySpeedLastsOneRun)
-{
-    ASSERT_TRUE(start());
-    Preferences::instance().setPlaySpeed(0.5F);
-    EXPECT_EQ(QSettings().value(Preferences::playSpeedKey).toFloat(), 0.5F);
-    ASSERT_TRUE(start());
-    EXPECT_EQ(Preferences::instance().playSpeed(), 1.0F);
-    EXPECT_EQ(QSettings().value(Preferences::playSpeedKey).toFloat(), 1.0F);
 }
 
 TEST_F(StartupTest, ExistingRecordIsNeverExtended)
@@ -71,13 +66,43 @@ TEST_F(StartupTest, ExistingRecordIsNeverExtended)
     EXPECT_EQ(readUserInfo(), old);
 }
 
-using StartupDeathTest = StartupTest;
-
-TEST_F(StartupDeathTest, DamagedRecordStopsTheStart)
+TEST_F(StartupDeathTest, DamagedRecordAndOverflowsAreFatal)
 {
+    const char *fatal = "Tolvane/AppCommon";
+    QVariantMap record = initialUserInfo();
+    record[UserInfoKey::reviewed] = std::numeric_limits<qint64>::max() / 1000 + 1;
+    EXPECT_DEATH((void)totalExperience(record), fatal);
+    record = initialUserInfo();
+    record[UserInfoKey::awordScore] = std::numeric_limits<qint64>::max();
+    record[UserInfoKey::startCount] = 1;
+    EXPECT_DEATH((void)totalExperience(record), fatal);
+    record = initialUserInfo();
+    record.remove(UserInfoKey::writeCount);
+    EXPECT_DEATH((void)totalExperience(record), fatal);
+    record = initialUserInfo();
+    record[UserInfoKey::quizTotalScore] = std::numeric_limits<qint64>::max() - 10;
+    ASSERT_TRUE(writeUserInfo(record));
+    EXPECT_DEATH(recordQuizResult(11), fatal);
+
     QFile file(AppPaths::userInfoPath());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("damaged");
     file.close();
-    EXPECT_DEATH(start(), "Tolvane/AppCommon");
+    EXPECT_DEATH(start(), fatal);
+}
+
+// What an older version or a damaged settings file left reads as the defaults.
+TEST_F(StartupTest, NonsensePreferencesReadAsDefaults)
+{
+    const Preferences &preferences = Preferences::instance();
+    for (const QVariant &bad : {QVariant(-5), QVariant(0), QVariant(u"long"_s), QVariant()}) {
+        QSettings().setValue(Preferences::testDurationKey, bad);
+        QSettings().setValue(Preferences::playSpeedKey, bad);
+        EXPECT_EQ(preferences.testDuration(), 60.0F) << qPrintable(bad.toString());
+        EXPECT_EQ(preferences.playSpeed(), 1.0F) << qPrintable(bad.toString());
+    }
+    for (const QString &bad : {u"xx"_s, u"FR"_s, u"zh"_s, QString()}) {
+        QSettings().setValue(Preferences::languageTypeKey, bad);
+        EXPECT_EQ(preferences.languageType(), defaultLanguageCode()) << qPrintable(bad);
+    }
 }

@@ -25,7 +25,7 @@ protected:
 using UserInfoFileDeathTest = UserInfoFileTest;
 } // namespace
 
-TEST_F(UserInfoFileTest, CountersAreStoredEnciphered)
+TEST_F(UserInfoFileTest, CountersAreStoredEncipheredAndReplacedWhole)
 {
     EXPECT_TRUE(record.read().isEmpty());
     ASSERT_TRUE(record.write({{u"kStartCount"_s, qint64{0}}, {u"kQuizTotalScore"_s, qint64{5}}}));
@@ -48,13 +48,15 @@ TEST_F(UserInfoFileTest, CountersAreStoredEnciphered)
 
 TEST_F(UserInfoFileTest, DamagedRecordReadsEmpty)
 {
-    ASSERT_TRUE(writeRaw("not a record"));
-    EXPECT_TRUE(record.read().isEmpty());
-    ASSERT_TRUE(writeRaw(VoCryptor::encryptWithDES(u"<plist>"_s, VoCryptor::recordKey).toUtf8()));
-    EXPECT_TRUE(record.read().isEmpty());
-    ASSERT_TRUE(writeRaw(
-        VoCryptor::encryptWithDES(u"<plist><dict/></plist>"_s, VoCryptor::contentKey).toUtf8()));
-    EXPECT_TRUE(record.read().isEmpty()) << "enciphered with the other key";
+    const QByteArray damaged[] = {
+        "not a record",
+        VoCryptor::encryptWithDES(u"<plist>"_s, VoCryptor::recordKey).toUtf8(),
+        VoCryptor::encryptWithDES(u"<plist><dict/></plist>"_s, VoCryptor::contentKey).toUtf8(),
+    };
+    for (const QByteArray &bytes : damaged) {
+        ASSERT_TRUE(writeRaw(bytes));
+        EXPECT_TRUE(record.read().isEmpty()) << bytes.constData();
+    }
 }
 
 TEST_F(UserInfoFileDeathTest, MissingKeysAndOverflowsAreFatal)

@@ -7,11 +7,14 @@
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+#include <functional>
 #include <gtest/gtest.h>
 
 /**
  * @brief The app with a silent player, and a quiz screen pushed onto it as the quiz menu pushes
- * it; the quiz kinds' UI tests derive from it. QuizCourse.h brings rightOption() and answer().
+ * it; the quiz kinds' UI tests derive from it. QuizCourse.h brings askedOption() and wrongOption().
  */
 class QuizUiTest : public ::testing::Test {
 protected:
@@ -41,5 +44,76 @@ protected:
     [[nodiscard]] QString text(const QString &objectName) const
     {
         return item(objectName)->property("text").toString();
+    }
+};
+
+/// Installs QuizCourse before the app starts, so that the app shows it, in English and with
+/// the usual minute whatever a test before left.
+struct QuizCourseFirst {
+    QuizCourseFirst()
+    {
+        QuizCourse::install();
+        Preferences::instance().setLanguageType(QStringLiteral("en"));
+        Preferences::instance().setTestDuration(Preferences::defaultTestDuration);
+    }
+};
+
+/**
+ * @brief QuizUiTest on QuizCourse, with a fresh record, so that one program can hold a kind's
+ * UI session and its model-level cases (QuizTest) on one course.
+ */
+class QuizCourseUiTest : private QuizCourseFirst, public QuizUiTest {
+protected:
+    void SetUp() override { ASSERT_TRUE(writeUserInfo(initialUserInfo())); }
+
+    /// One finished session is counted with its score, and no other counter moved.
+    static void expectOneQuizRecorded(qint64 score)
+    {
+        for (const QString &key : initialUserInfo().keys()) {
+            const qint64 wanted = key == UserInfoKey::quizCount        ? 1
+                                  : key == UserInfoKey::quizTotalScore ? score
+                                                                       : 0;
+            EXPECT_EQ(userInfoInt(key), wanted) << qPrintable(key);
+        }
+    }
+
+    /// The answer a result row shows, in the colour of its verdict.
+    void expectAnswer(int row, const QString &answer, bool right) const
+    {
+        QQuickItem *label = findItem(AppWindow::listRow(item(QStringLiteral("resultTable")), row),
+                                     QStringLiteral("testTextLbl"));
+        ASSERT_NE(label, nullptr) << row;
+        EXPECT_EQ(label->property("text").toString(), answer) << row;
+        EXPECT_EQ(label->property("color").value<QColor>(),
+                  right ? QuizResultModel::rightColor() : QuizResultModel::wrongColor())
+            << row;
+    }
+
+    /// Opens the page on all phrases, submits one question by Return, runs whileAsking and
+    /// leaves: the countdown stops as the screen starts to go, and nothing is recorded.
+    template <typename Quiz>
+    void leaveHalfWay(const QString &page, const std::function<void()> &whileAsking = {})
+    {
+        const qint64 quizzes = userInfoInt(UserInfoKey::quizCount);
+        Quiz *quiz = pushQuiz<Quiz>(page, QStringLiteral("categoryId: \"\""));
+        ASSERT_NE(quiz, nullptr);
+        EXPECT_EQ(quiz->questionCount(), 10) << "no category: all phrases";
+        QTest::keyClick(app.window(), Qt::Key_Return);
+        EXPECT_EQ(quiz->currIndex(), 1);
+        if (whileAsking)
+            whileAsking();
+        QTest::keyClick(app.window(), Qt::Key_Escape);
+        EXPECT_FALSE(quiz->isCountingDown());
+        ASSERT_TRUE(app.waitForDepth(1));
+        EXPECT_EQ(userInfoInt(UserInfoKey::quizCount), quizzes);
+    }
+
+    /// The styled score label of a finished session: its points in their band's colour.
+    void expectScoreLabel(int points, const char *colour) const
+    {
+        EXPECT_EQ(text(QStringLiteral("scoreLbl")),
+                  QStringLiteral("Score: <font color=\"%1\">%2</font>/100")
+                      .arg(QLatin1String(colour))
+                      .arg(points));
     }
 };

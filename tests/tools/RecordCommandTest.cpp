@@ -3,76 +3,66 @@
 #include "content/PlistCodec.h"
 #include "content/UserInfoFile.h"
 #include "content/VoCryptor.h"
+#include "content/VoFileUtil.h"
 
-#include <QFile>
 #include <limits>
 
-namespace {
-
-class RecordShowTest : public ::testing::Test {
-protected:
-    [[nodiscard]] QString path() const { return m_dir.filePath(u"userInfo.plist"_s); }
-
-    CliRun show() const { return runCli({u"record"_s, u"show"_s, u"--record"_s, path()}); }
-
-    void writeRaw(const QByteArray &bytes) const
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-private:
-    QTemporaryDir m_dir;
-};
-
-} // namespace
-
-TEST_F(RecordShowTest, PrintsEveryCounterAndTheExperience)
+TEST(RecordShow, PrintsEveryCounterAndTheExperience)
 {
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(u"userInfo.plist"_s);
+    const UserInfoFile file(path);
     // Distinct values, so a counter printed under another's name shows.
     QVariantMap record = initialUserInfo();
     qint64 value = 0;
     for (auto it = record.begin(); it != record.end(); ++it)
         *it = (++value) * 3;
-    ASSERT_TRUE(UserInfoFile(path()).write(record));
-
-    const CliRun run = show();
+    ASSERT_TRUE(file.write(record));
+    const CliRun run = runCli({u"record"_s, u"show"_s, u"--record"_s, path});
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-    QStringList expected;
-    for (auto it = record.cbegin(); it != record.cend(); ++it)
-        expected.append(it.key() + u'\t' + QString::number(it.value().toLongLong()));
-    expected.append(u"experience\t"_s + QString::number(totalExperience(record)));
-    EXPECT_EQ(run.outLines(), expected);
+    // Weights 10 start, 5 listen, read and write, 10 quizzes, 1 score and word score, 1000 review.
+    EXPECT_EQ(run.outLines(),
+              (QStringList{u"kAdvised\t3"_s, u"kAwordScore\t6"_s, u"kListenCount\t9"_s,
+                           u"kQuizCount\t12"_s, u"kQuizTotalScore\t15"_s, u"kReadCount\t18"_s,
+                           u"kReviewed\t21"_s, u"kStartCount\t24"_s, u"kWriteCount\t27"_s,
+                           u"kshared\t30"_s, u"experience\t21651"_s}));
 }
 
-TEST_F(RecordShowTest, MissingOrDamagedRecordFailsClearly)
+TEST(RecordShow, MissingOrDamagedRecordFailsWithOneLine)
 {
-    expectOneLineFailure(show(), path());
-
-    writeRaw("not a record at all");
-    expectOneLineFailure(show(), path());
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(u"userInfo.plist"_s);
+    const auto show = [&] { return runCli({u"record"_s, u"show"_s, u"--record"_s, path}); };
+    expectOneLineFailure(show(), path);
 
     // A sound record under the wrong key reads as damage, not as an empty record.
     const QString xml = QString::fromUtf8(PlistCodec::toXml(initialUserInfo()));
-    writeRaw(VoCryptor::encryptWithDES(xml, VoCryptor::contentKey).toUtf8());
-    expectOneLineFailure(show(), path());
+    for (const QByteArray &bytes : {QByteArray("not a record at all"),
+                                    VoCryptor::encryptWithDES(xml, VoCryptor::contentKey).toUtf8()}) {
+        ASSERT_TRUE(VoFileUtil::writeFileAtomically(path, bytes));
+        expectOneLineFailure(show(), path);
+    }
 
-    QVariantMap incomplete = initialUserInfo();
-    incomplete.remove(UserInfoKey::quizCount);
-    ASSERT_TRUE(UserInfoFile(path()).write(incomplete));
-    expectOneLineFailure(show(), UserInfoKey::quizCount);
-}
-
-TEST_F(RecordShowTest, CounterThatIsNoIntegerFailsWithoutAborting)
-{
     QVariantMap record = initialUserInfo();
+    record.remove(UserInfoKey::quizCount);
+    ASSERT_TRUE(UserInfoFile(path).write(record));
+    expectOneLineFailure(show(), UserInfoKey::quizCount);
+
+    record = initialUserInfo();
     record.insert(UserInfoKey::reviewed, u"many"_s);
-    ASSERT_TRUE(UserInfoFile(path()).write(record));
+    ASSERT_TRUE(UserInfoFile(path).write(record));
     expectOneLineFailure(show(), UserInfoKey::reviewed);
 
     // Each counter fits, but the weighted total does not.
     record.insert(UserInfoKey::reviewed, std::numeric_limits<qint64>::max() / 10);
-    ASSERT_TRUE(UserInfoFile(path()).write(record));
+    ASSERT_TRUE(UserInfoFile(path).write(record));
     expectOneLineFailure(show(), u"experience"_s);
+}
+
+TEST(Words, OneWordALineKeepingApostrophes)
+{
+    EXPECT_EQ(runCli({u"words"_s, u"--upper"_s, u"Wie geht's?"_s}).outLines(),
+              (QStringList{u"WIE"_s, u"GEHT'S"_s}));
+    EXPECT_EQ(runCli({u"words"_s, u"Wie"_s, u"geht's?"_s}).outLines(),
+              (QStringList{u"Wie"_s, u"geht's"_s}));
 }

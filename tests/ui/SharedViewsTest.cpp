@@ -42,20 +42,20 @@ protected:
         });
     }
 
-    // Rows of the window's picture within the item that hold dark (text) pixels.
+    // The first and last rows of the item's box in the window's picture with dark (text) pixels.
+    // Not boundingRect(): a text item's is that of its text, which is what is measured.
     [[nodiscard]] std::pair<int, int> inkRows(QQuickItem *item) const
     {
         const QImage image = app.window()->grabWindow();
-        // Not boundingRect(): a text item's is that of its text, which is what is measured.
-        const QRectF box = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        const QRect box =
+            item->mapRectToScene(QRectF(0, 0, item->width(), item->height())).toRect();
         int top = -1;
         int bottom = -1;
-        const QRect pixels = box.toRect();
-        for (int y = pixels.top(); y <= pixels.bottom(); ++y)
-            for (int x = pixels.left(); x <= pixels.right(); ++x)
+        for (int y = box.top(); y <= box.bottom(); ++y)
+            for (int x = box.left(); x <= box.right(); ++x)
                 if (qGray(image.pixel(x, y)) < 128) {
-                    top = top < 0 ? y - pixels.top() : top;
-                    bottom = y - pixels.top();
+                    top = top < 0 ? y - box.top() : top;
+                    bottom = y - box.top();
                     break;
                 }
         return {top, bottom};

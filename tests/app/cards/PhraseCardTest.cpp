@@ -1,197 +1,215 @@
+#include "AppWindow.h"
+#include "app/AppColors.h"
 #include "app/PhraseCardVC.h"
+#include "app/PhraseWriteController.h"
 #include "app/Preferences.h"
 #include "app/UserRecord.h"
-#include "content/CourseFixture.h"
+#include "content/AppCommon.h"
+#include "content/QtPrinters.h"
 #include "content/UserInfoFile.h"
 #include "stubs/AudioPlayerStub.h"
 
-#include <QSettings>
-#include <QSignalSpy>
+#include <QColor>
+#include <QQmlContext>
+#include <QQmlExpression>
+#include <QQmlProperty>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-// The sample course: category "10" holds "Guten Morgen!" and "Wie geht's?", "2" one phrase
-// and "9" none.
+// Category "1" of the shipped course: 14 phrases from "Guten Morgen!" to "Gute Nacht!".
 class PhraseCardTest : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        CourseFixture::appCourse();
-        ASSERT_TRUE(writeUserInfo(initialUserInfo()));
-        QSettings().clear();
-        Preferences::instance().setLanguageType(u"en"_s);
-    }
-
-    static qint64 listens() { return userInfoInt(UserInfoKey::listenCount); }
-
-    static QString voice(const QString &category, int index)
-    {
-        return soundPath(*loadPhrases(category)->at(index));
-    }
-
-    static void expectButtons(const PhraseCardVC &card, const char *last, const char *next)
-    {
-        EXPECT_EQ(card.lastItemImage(), QLatin1StringView(last));
-        EXPECT_EQ(card.lastItemEnabled(), card.lastItemImage() == u"btn-last"_s);
-        EXPECT_EQ(card.nextItemImage(), QLatin1StringView(next));
-        EXPECT_EQ(card.nextItemEnabled(), card.nextItemImage() == u"btn-next"_s);
-    }
-
     AudioPlayerStubFactory players;
+    AppWindow app;
+
+    // As the category screen does it.
+    void openCards(int index)
+    {
+        QQmlExpression push(
+            qmlContext(app.stack()), app.stack(),
+            u"push(\"PhraseCardPage.qml\", {categoryId: \"1\", phraseIndex: %1})"_s.arg(index));
+        push.evaluate();
+        ASSERT_FALSE(push.hasError()) << qPrintable(push.error().toString());
+        ASSERT_TRUE(app.waitForDepth(2));
+    }
+
+    [[nodiscard]] QQuickItem *item(const QString &objectName) const
+    {
+        // The screen's own items first: the one below has a tool bar too. Pop-ups sit in the
+        // window's overlay.
+        QQuickItem *found = findItem(app.currentPage(), objectName);
+        if (!found)
+            found = findItem(app.window()->contentItem(), objectName);
+        if (!found)
+            ADD_FAILURE() << "no item " << qPrintable(objectName);
+        return found;
+    }
+
+    [[nodiscard]] QString text(const QString &objectName) const
+    {
+        return item(objectName)->property("text").toString();
+    }
+
+    [[nodiscard]] QString icon(const QString &button) const
+    {
+        return QQmlProperty::read(item(button), u"icon.source"_s).toUrl().fileName();
+    }
+
+    // Which way the learner can step, as the buttons show it: enabled and their icons.
+    [[nodiscard]] QString steps() const
+    {
+        QString shown;
+        for (const QString &button : {u"lastItemButton"_s, u"nextItemButton"_s})
+            shown += (item(button)->isEnabled() ? u"+"_s : u"-"_s) + icon(button) + u' ';
+        return shown.trimmed();
+    }
+
+    static PhraseInfo &phrase(int index) { return *loadPhrases(u"1"_s)->at(index); }
+    static qint64 count(const QString &key) { return userInfoInt(key); }
 };
 
 } // namespace
 
-TEST_F(PhraseCardTest, StepsThroughTheCategoryAndGreysTheButtonsAtItsEnds)
-{
-    PhraseCardVC card;
-    card.open(u"10"_s, 0);
-    EXPECT_EQ(card.title(), u"Greetings"_s);
-    EXPECT_EQ(card.phraseCount(), 2);
-    EXPECT_EQ(card.currentIndex(), 0);
-    EXPECT_EQ(card.phraseText(), u"Guten Morgen!"_s);
-    EXPECT_EQ(card.translation(), u"Good morning!"_s);
-    expectButtons(card, "btn-last2", "btn-next");
-
-    QSignalSpy shown(&card, &PhraseCardVC::phraseChanged);
-    card.nextItem();
-    EXPECT_EQ(card.currentIndex(), 1);
-    EXPECT_EQ(card.phraseText(), u"Wie geht's?"_s);
-    EXPECT_EQ(card.translation(), u"Wie geht's?"_s) << "no translation: the German text";
-    expectButtons(card, "btn-last", "btn-next2");
-
-    card.nextItem();
-    EXPECT_EQ(card.currentIndex(), 1);
-    expectButtons(card, "btn-last", "btn-next2");
-
-    card.lastItem();
-    EXPECT_EQ(card.currentIndex(), 0);
-    expectButtons(card, "btn-last2", "btn-next");
-    card.lastItem();
-    EXPECT_EQ(card.currentIndex(), 0);
-    EXPECT_EQ(shown.count(), 2);
-
-    // A phrase is heard each time it is shown; pressing against an end shows nothing new.
-    EXPECT_EQ(players.requested,
-              (QStringList{voice(u"10"_s, 0), voice(u"10"_s, 1), voice(u"10"_s, 0)}));
-    EXPECT_EQ(listens(), 3);
-}
-
-TEST_F(PhraseCardTest, OnePhraseCategoryCannotStepEitherWay)
-{
-    PhraseCardVC card;
-    card.open(u"2"_s, 0);
-    EXPECT_EQ(card.phraseText(), u"Einen Kaffee bitte!"_s) << "the German entry wins";
-    expectButtons(card, "btn-last2", "btn-next2");
-    card.nextItem();
-    card.lastItem();
-    expectButtons(card, "btn-last2", "btn-next2");
-    EXPECT_EQ(listens(), 1);
-}
-
-TEST_F(PhraseCardTest, EveryPlayIsCountedAndHeardAtTheLearnersSpeed)
+TEST_F(PhraseCardTest, CardShowsThePhraseStepsAndCountsEveryPlay)
 {
     Preferences::instance().setPlaySpeed(0.6F);
-    PhraseCardVC card;
-    card.open(u"10"_s, 1);
-    expectButtons(card, "btn-last", "btn-next2");
+    const qint64 listens = count(UserInfoKey::listenCount);
+    players.unplayable = {soundPath(phrase(1))};
+    openCards(0);
+    EXPECT_EQ(text(u"phraseText"_s), u"Guten Morgen!"_s);
+    EXPECT_EQ(text(u"phraseTranslation"_s), u"Good morning!"_s);
+    EXPECT_EQ(text(u"phrasePosition"_s), u"1 of 14"_s);
+    EXPECT_EQ(app.currentPage()->findChild<PhraseCardVC *>()->phonetics(), u"ˈɡuːtn̩ ˈmɔʁɡn̩"_s);
+    EXPECT_EQ(text(u"toolBarTitle"_s), u"Greetings and Goodbyes"_s);
+    EXPECT_EQ(steps(), u"-btn-last2.svg +btn-next.svg"_s);
+    QQuickItem *image = item(u"phraseImage"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return image->property("status").toInt() == 1; }))
+        << "the phrase's picture loads";
+    EXPECT_GT(image->property("paintedHeight").toDouble(), 50);
     ASSERT_NE(players.last, nullptr);
+    EXPECT_EQ(players.last->path(), soundPath(phrase(0)));
     EXPECT_TRUE(players.last->isPlaying());
-    EXPECT_FLOAT_EQ(players.last->rate(), 0.6F);
+    EXPECT_FLOAT_EQ(players.last->rate(), 0.6F) << "at the learner's speed";
     EXPECT_EQ(players.last->numberOfLoops(), 0);
-    EXPECT_FLOAT_EQ(players.last->volume(), 1.0F);
+    const QImage shot = app.screenshot(u"phrase-card"_s);
+    EXPECT_EQ(shot.pixelColor(shot.width() / 2, 4).rgb(), AppColors::barBlue().rgb());
 
-    for (int press = 0; press < 3; ++press)
-        card.play();
-    EXPECT_EQ(listens(), 1 + 3);
-    EXPECT_EQ(players.requested.size(), 4);
+    // A recording that cannot be played is still a listen: the learner asked for it.
+    QTest::keyClick(app.window(), Qt::Key_Right);
+    EXPECT_EQ(text(u"phraseText"_s), u"Guten Tag!"_s);
+    EXPECT_EQ(steps(), u"+btn-last.svg +btn-next.svg"_s);
+    app.tapCentre(item(u"lastItemButton"_s));
+    EXPECT_EQ(text(u"phraseText"_s), u"Guten Morgen!"_s);
+    EXPECT_EQ(steps(), u"-btn-last2.svg +btn-next.svg"_s);
+    QTest::keyClick(app.window(), Qt::Key_Left);
+    EXPECT_EQ(text(u"phraseText"_s), u"Guten Morgen!"_s);
+    QTest::keyClick(app.window(), Qt::Key_Space);
+    app.tapCentre(item(u"playButton"_s));
+    EXPECT_EQ(count(UserInfoKey::listenCount), listens + 5);
+    EXPECT_EQ(players.requested.size(), 5);
 
-    card.stopPlaying();
-    EXPECT_FALSE(players.last->isPlaying());
-}
+    app.tapCentre(item(u"lookButton"_s));
+    EXPECT_EQ(item(u"phraseText"_s)->opacity(), 0);
+    EXPECT_EQ(item(u"phraseTranslation"_s)->opacity(), 1);
+    EXPECT_EQ(icon(u"lookButton"_s), u"btn-no-look.svg"_s);
+    app.tapCentre(item(u"lookButton"_s));
+    EXPECT_EQ(item(u"phraseText"_s)->opacity(), 1);
+    EXPECT_EQ(icon(u"lookButton"_s), u"btn-look.svg"_s);
+    EXPECT_EQ(count(UserInfoKey::listenCount), listens + 5) << "looking is not listening";
 
-TEST_F(PhraseCardTest, MissingRecordingIsSilentButStillCountedAsAListen)
-{
-    players.unplayable = {voice(u"10"_s, 0)};
-    PhraseCardVC card;
-    card.open(u"10"_s, 0);
-    card.play();
-    card.stopPlaying();
-    EXPECT_EQ(card.phraseText(), u"Guten Morgen!"_s);
-    EXPECT_EQ(listens(), 2);
-}
-
-TEST_F(PhraseCardTest, NothingToShowGivesAnEmptyCardThatIgnoresItsButtons)
-{
-    const std::pair<QString, int> openings[] = {
-        {u"11"_s, 0}, {u"9"_s, 0}, {u"10"_s, 2}, {u"10"_s, -1}};
-    for (const auto &[category, index] : openings) {
-        PhraseCardVC card;
-        card.open(category, index);
-        EXPECT_FALSE(card.hasPhrase()) << qPrintable(category) << " " << index;
-        EXPECT_EQ(card.currentIndex(), -1);
-        EXPECT_TRUE(card.phraseText().isEmpty());
-        EXPECT_TRUE(card.image().isEmpty());
-        expectButtons(card, "btn-last2", "btn-next2");
-        card.play();
-        card.nextItem();
-        card.lastItem();
-        EXPECT_FALSE(card.hasPhrase());
-    }
-    EXPECT_TRUE(players.requested.isEmpty());
-    EXPECT_EQ(listens(), 0);
-}
-
-TEST_F(PhraseCardTest, ReopeningAtAnotherPhraseSetsBothButtonsAfresh)
-{
-    PhraseCardVC card;
-    card.open(u"10"_s, 1);
-    card.open(u"11"_s, 0);
-    expectButtons(card, "btn-last2", "btn-next2");
-    card.open(u"10"_s, 0);
-    expectButtons(card, "btn-last2", "btn-next");
-}
-
-TEST_F(PhraseCardTest, LookButtonHidesAndShowsTheGermanText)
-{
-    PhraseCardVC card;
-    card.open(u"10"_s, 0);
-    QSignalSpy toggled(&card, &PhraseCardVC::phraseHiddenChanged);
-    EXPECT_FALSE(card.phraseHidden());
-    EXPECT_EQ(card.lookImage(), u"btn-look"_s);
-    card.toggleLook();
-    EXPECT_TRUE(card.phraseHidden());
-    EXPECT_EQ(card.lookImage(), u"btn-no-look"_s);
-    card.toggleLook();
-    EXPECT_FALSE(card.phraseHidden());
-    EXPECT_EQ(card.lookImage(), u"btn-look"_s);
-    EXPECT_EQ(toggled.count(), 2);
-    EXPECT_EQ(listens(), 1) << "looking is not listening";
-}
-
-TEST_F(PhraseCardTest, TextsFollowTheLearnersLanguage)
-{
-    PhraseCardVC card;
-    card.open(u"10"_s, 0);
-    QSignalSpy translation(&card, &PhraseCardVC::translationChanged);
-    QSignalSpy title(&card, &PhraseCardVC::titleChanged);
     Preferences::instance().setLanguageType(u"fr"_s);
-    EXPECT_EQ(translation.count(), 1);
-    EXPECT_EQ(title.count(), 1);
-    EXPECT_EQ(card.translation(), u"Bonjour !"_s);
-    EXPECT_EQ(card.title(), u"Salutations"_s);
+    EXPECT_EQ(text(u"phraseTranslation"_s), phrase(0).trans.value(u"fr"_s));
+    EXPECT_EQ(text(u"toolBarTitle"_s), u"Dire bonjour et au revoir"_s);
+    Preferences::instance().setLanguageType(u"en"_s);
+
+    // Going back silences the card at once; the player goes with the screen when the zoom ends.
+    ASSERT_TRUE(players.last->isPlaying());
+    QTest::keyClick(app.window(), Qt::Key_Escape);
+    EXPECT_FALSE(players.last->isPlaying());
+    ASSERT_TRUE(app.waitForDepth(1));
+    EXPECT_EQ(players.requested.size(), 5);
 }
 
-TEST_F(PhraseCardTest, PictureIsShownOnlyWhenTheCourseHasOne)
+TEST_F(PhraseCardTest, WritingPopUpColoursRightAndWrongAnswers)
 {
-    PhraseCardVC card;
-    card.open(u"10"_s, 1);
-    EXPECT_TRUE(card.image().isEmpty());
+    const qint64 writes = count(UserInfoKey::writeCount);
+    openCards(13);
+    EXPECT_EQ(steps(), u"+btn-last.svg -btn-next2.svg"_s);
+    QTest::keyClick(app.window(), Qt::Key_Right);
+    EXPECT_EQ(text(u"phraseText"_s), u"Gute Nacht!"_s);
 
-    const QString picture = imagePath(*loadPhrases(u"10"_s)->at(0));
-    CourseFixture::appCourse().writeFile(
-        QDir(CourseFixture::appCourse().root()).relativeFilePath(picture), "jpeg");
-    card.lastItem();
-    EXPECT_EQ(card.image(), QUrl::fromLocalFile(picture));
+    // A pop-up is no item of the scene; it hangs off the screen's object tree.
+    QObject *popUp = app.currentPage()->findChild<QObject *>(u"writePopUp"_s);
+    ASSERT_NE(popUp, nullptr);
+    const auto openPopUp = [&] {
+        app.tapCentre(item(u"writeButton"_s));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return popUp->property("opened").toBool(); }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return item(u"writeInput"_s)->hasActiveFocus(); }));
+        EXPECT_TRUE(item(u"writeInput"_s)->isEnabled());
+        EXPECT_TRUE(text(u"writeInput"_s).isEmpty());
+        EXPECT_FALSE(item(u"wordLabel"_s)->isVisible()) << "the phrase stays hidden until checked";
+    };
+    const auto type = [&](const char *typed) {
+        for (const char *c = typed; *c; ++c)
+            QTest::keyClick(app.window(), *c);
+    };
+    const auto expectChecked = [&](const QColor &colour, const char *screenshot) {
+        EXPECT_FALSE(item(u"writeInput"_s)->isEnabled());
+        EXPECT_EQ(item(u"writeInput"_s)->property("color").value<QColor>(), colour);
+        EXPECT_TRUE(item(u"wordLabel"_s)->isVisible());
+        EXPECT_EQ(text(u"wordLabel"_s), u"Gute Nacht!"_s);
+        (void)app.screenshot(QLatin1StringView(screenshot));
+    };
+
+    openPopUp();
+    EXPECT_NEAR(popUp->property("width").toDouble(), 0.9 * app.window()->width(), 1);
+    type("gute NACHT!");
+    QTest::keyClick(app.window(), Qt::Key_Return);
+    expectChecked(PhraseWriteController::rightColor(), "phrase-card-write-right");
+    EXPECT_EQ(count(UserInfoKey::writeCount), writes + 1);
+
+    app.tapCentre(item(u"redoButton"_s));
+    EXPECT_TRUE(text(u"writeInput"_s).isEmpty());
+    EXPECT_FALSE(item(u"wordLabel"_s)->isVisible());
+    type("Gute Nacht");
+    app.tapCentre(item(u"submitButton"_s));
+    expectChecked(PhraseWriteController::wrongColor(), "phrase-card-write-wrong");
+    // Frozen after the check: typing changes nothing, another submit counts nothing.
+    type("!");
+    QTest::keyClick(app.window(), Qt::Key_Return);
+    EXPECT_EQ(text(u"writeInput"_s), u"Gute Nacht"_s);
+    EXPECT_EQ(count(UserInfoKey::writeCount), writes + 1);
+
+    QTest::keyClick(app.window(), Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !popUp->property("visible").toBool(); }));
+    EXPECT_EQ(app.depth(), 2) << "Escape closes the pop-up, not the screen";
+    openPopUp();
+}
+
+// Only letter case is forgiven; lower-casing, not case folding, so ß stays apart from ss.
+TEST(PhraseWrite, OnlyLetterCaseIsForgiven)
+{
+    ASSERT_TRUE(writeUserInfo(initialUserInfo()));
+    const std::pair<QString, bool> typed[] = {{u"wie GEHT'S?"_s, true},
+                                              {u"Wie geht's? "_s, false},
+                                              {u"Wie gehts?"_s, false},
+                                              {u"Wie geht’s?"_s, false},
+                                              {u""_s, false}};
+    const auto verdict = [](const QString &phrase, const QString &input) {
+        PhraseWriteController writing;
+        writing.setWordText(phrase);
+        writing.setInput(input);
+        writing.submit();
+        return writing.verdict() == PhraseWriteController::Verdict::Right;
+    };
+    for (const auto &[input, right] : typed)
+        EXPECT_EQ(verdict(u"Wie geht's?"_s, input), right) << qPrintable(input);
+    EXPECT_TRUE(verdict(u"Straße"_s, u"STRAßE"_s));
+    EXPECT_FALSE(verdict(u"Grüße."_s, u"GRÜSSE."_s));
 }

@@ -12,13 +12,13 @@ class UrlRecorder : public QObject {
 public:
     UrlRecorder()
     {
-        for (const QString &scheme : schemes())
-            QDesktopServices::setUrlHandler(scheme, this, "open");
+        for (const char *scheme : schemes)
+            QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "open");
     }
     ~UrlRecorder() override
     {
-        for (const QString &scheme : schemes())
-            QDesktopServices::unsetUrlHandler(scheme);
+        for (const char *scheme : schemes)
+            QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
     }
     UrlRecorder(const UrlRecorder &) = delete;
     UrlRecorder &operator=(const UrlRecorder &) = delete;
@@ -29,8 +29,5 @@ public Q_SLOTS:
     void open(const QUrl &url) { urls.append(url); }
 
 private:
-    static QStringList schemes()
-    {
-        return {QStringLiteral("https"), QStringLiteral("http"), QStringLiteral("mailto")};
-    }
+    static constexpr const char *schemes[] = {"https", "http", "mailto"};
 };

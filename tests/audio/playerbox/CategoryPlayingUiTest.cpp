@@ -1,10 +1,10 @@
 #include "AppWindow.h"
 #include "app/CategoryViewController.h"
+#include "app/Preferences.h"
 #include "content/AppCommon.h"
 #include "content/QtPrinters.h"
 #include "stubs/AudioPlayerStub.h"
 
-#include <QFile>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -18,11 +18,9 @@ namespace {
 
 class CategoryPlayingUiTest : public ::testing::Test {
 protected:
-    AudioPlayerStubFactory players;
-    AppWindow app;
-
     void SetUp() override
     {
+        Preferences::instance().setPlaySpeed(1.4F);
         QQuickItem *row = AppWindow::listRow(findItem(app.stack(), u"categoryList"_s), 1);
         ASSERT_NE(row, nullptr);
         app.tapCentre(row);
@@ -42,45 +40,99 @@ protected:
         return row ? findItem(row, u"phraseRowBackground"_s)->property("tint").toDouble() : -1;
     }
 
+    AudioPlayerStubFactory players;
+    AppWindow app;
     CategoryViewController *screen{nullptr};
 };
 
 } // namespace
 
-TEST_F(CategoryPlayingUiTest, PlayingMarksThePhraseAndTheBarFollowsTheEngine)
+// The list the category screen plays as a learner meets it; the choices of its options panel are
+// made on the screen's controller.
+TEST_F(CategoryPlayingUiTest, PlayingMarksThePhraseTheBarFollowsAndTheChoicesReachThePlayer)
 {
+    VoPlayerBox &player = *screen->player();
+    const QList<PhraseInfo *> &phrases = *loadPhrases(screen->categoryId());
     QQuickItem *play = control(u"playButton"_s);
     ASSERT_NE(play, nullptr);
     EXPECT_EQ(play->property("image").toString(), u"vo_play"_s);
     EXPECT_FALSE(control(u"stopButton"_s)->isEnabled());
+    EXPECT_TRUE(player.nextEnabled());
     EXPECT_EQ(rowTint(0), 0);
 
     app.tapCentre(play);
-    ASSERT_EQ(screen->player()->playStatus(), VoPlayerBox::Playing);
-    EXPECT_EQ(players.requested.constFirst(), soundPath(*loadPhrases(screen->categoryId())->at(0)));
+    ASSERT_EQ(player.playStatus(), VoPlayerBox::Playing);
+    EXPECT_EQ(players.requested, QStringList{soundPath(*phrases.at(0))});
+    EXPECT_FLOAT_EQ(players.last->rate(), 1.4F) << "the speed setting";
     EXPECT_EQ(play->property("image").toString(), u"vo_pause"_s);
     EXPECT_TRUE(control(u"stopButton"_s)->isEnabled());
     EXPECT_GT(rowTint(0), 0);
 
     app.tapCentre(control(u"nextButton"_s));
-    EXPECT_EQ(screen->playingIndex(), 1);
+    EXPECT_EQ(players.requested.constLast(), soundPath(*phrases.at(1)));
     EXPECT_GT(rowTint(1), 0);
     EXPECT_EQ(rowTint(0), 0);
     app.tapCentre(control(u"speedUpButton"_s));
     QQuickItem *badge = control(u"speedRemindLabel"_s);
-    EXPECT_EQ(badge->property("text").toString(), u"1.2X"_s);
-    QImage shot = app.screenshot(u"category_playing"_s);
-    EXPECT_FALSE(shot.isNull());
+    EXPECT_EQ(badge->property("text").toString(), u"1.6X"_s);
+    EXPECT_FLOAT_EQ(Preferences::instance().playSpeed(), 1.6F);
+    EXPECT_FALSE(app.screenshot(u"category_playing"_s).isNull());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !badge->isVisible(); }, 1000));
 
-    // Space pauses, as the play button does; the right arrow steps on.
-    ASSERT_EQ(screen->player()->playStatus(), VoPlayerBox::Playing);
+    // Space pauses, as the play button does, and the phrase stays marked; the right arrow steps on.
     QTest::keyClick(app.window(), Qt::Key_Space);
-    EXPECT_EQ(screen->player()->playStatus(), VoPlayerBox::Paused);
+    EXPECT_EQ(player.playStatus(), VoPlayerBox::Paused);
     EXPECT_EQ(play->property("image").toString(), u"vo_play"_s);
+    EXPECT_GT(rowTint(1), 0);
     EXPECT_EQ(app.depth(), 2);
     QTest::keyClick(app.window(), Qt::Key_Right);
     EXPECT_EQ(screen->playingIndex(), 2);
+
+    // Each repeat choice sounds a phrase that many times; others are not offered.
+    for (const int count : CategoryViewController::repeatChoices()) {
+        screen->setRepeatCount(count);
+        player.playItem(0);
+        EXPECT_EQ(players.last->numberOfLoops() + 1, count);
+    }
+    screen->setRepeatCount(2);
+    EXPECT_EQ(screen->repeatCount(), 5);
+
+    // During the pause before a phrase, that phrase is marked already; after the last, none is.
+    screen->setItemDelay(1);
+    screen->setItemDelay(4);
+    EXPECT_EQ(screen->itemDelay(), 1);
+    players.last->finishPlaying();
+    EXPECT_TRUE(player.waitingToStart());
+    EXPECT_EQ(screen->playingIndex(), 1);
+    player.stop();
+    EXPECT_EQ(screen->playingIndex(), -1);
+    screen->setItemDelay(0);
+    player.playItem(static_cast<int>(phrases.size()) - 1);
+    players.last->finishPlaying();
+    EXPECT_EQ(screen->playingIndex(), -1);
+
+    // The speed kept is the one heard, never below the slowest.
+    player.playItem(0);
+    for (int press = 0; press < 9; ++press)
+        player.speedDown();
+    EXPECT_LT(player.playRate(), 0.2F);
+    EXPECT_FLOAT_EQ(Preferences::instance().playSpeed(), 0.2F);
+    Preferences::instance().setPlaySpeed(1.4F);
+
+    // Another category stops the sound and starts from its first phrase.
+    const QString other = screen->categoryId() == u"1"_s ? u"2"_s : u"1"_s;
+    screen->setCategoryId(other);
+    EXPECT_EQ(player.playStatus(), VoPlayerBox::Stopped);
+    EXPECT_EQ(player.audioFileList().constFirst(), soundPath(*loadPhrases(other)->at(0)));
+    EXPECT_EQ(player.currItemIndex(), 0);
+
+    // A tapped phrase opens the phrase cards there, and the list stops sounding.
+    player.play(true);
+    app.tapCentre(AppWindow::listRow(control(u"phraseList"_s), 1));
+    ASSERT_TRUE(app.waitForDepth(3));
+    EXPECT_EQ(app.currentPage()->property("categoryId").toString(), other);
+    EXPECT_EQ(app.currentPage()->property("phraseIndex").toInt(), 1);
+    EXPECT_EQ(player.playStatus(), VoPlayerBox::Stopped);
 }
 
 // The buttons of a bar, centred in one row: the first at (bar width - n buttons - n-1 margins) / 2.
@@ -88,12 +140,13 @@ void expectCentredRow(QQuickItem *bar, const QStringList &names, double side, do
 {
     const double first = (bar->width() - names.size() * side - (names.size() - 1) * margin) / 2;
     for (int i = 0; i < names.size(); ++i) {
+        SCOPED_TRACE(qPrintable(names[i]));
         QQuickItem *button = findItem(bar, names[i]);
-        ASSERT_NE(button, nullptr) << qPrintable(names[i]);
+        ASSERT_NE(button, nullptr);
         const QPointF at = button->mapToItem(bar, QPointF(0, 0));
-        EXPECT_NEAR(at.x(), first + i * (side + margin), 1e-6) << qPrintable(names[i]);
-        EXPECT_NEAR(at.y(), (bar->height() - side) / 2, 1e-6) << qPrintable(names[i]);
-        EXPECT_EQ(button->size(), QSizeF(side, side)) << qPrintable(names[i]);
+        EXPECT_NEAR(at.x(), first + i * (side + margin), 1e-6);
+        EXPECT_NEAR(at.y(), (bar->height() - side) / 2, 1e-6);
+        EXPECT_EQ(button->size(), QSizeF(side, side));
     }
 }
 
@@ -131,19 +184,4 @@ TEST_F(CategoryPlayingUiTest, BarsAreCentredRowsOfTheirSizes)
     ASSERT_TRUE(QTest::qWaitFor([&] { return bar->width() == 800; }));
     QTest::qWait(50);
     expectCentredRow(bar, listButtons, 40, 20);
-}
-
-TEST_F(CategoryPlayingUiTest, TappingAPhraseOpensThePhraseCardsThere)
-{
-    app.tapCentre(control(u"playButton"_s));
-    app.tapCentre(AppWindow::listRow(control(u"phraseList"_s), 1));
-    if (!QFile::exists(u":/Tolvane/PhraseCardPage.qml"_s)) {
-        QTest::qWait(100);
-        EXPECT_EQ(app.depth(), 2) << "no phrase cards yet: the list stays";
-        return;
-    }
-    ASSERT_TRUE(app.waitForDepth(3));
-    EXPECT_EQ(app.currentPage()->property("categoryId").toString(), screen->categoryId());
-    EXPECT_EQ(app.currentPage()->property("phraseIndex").toInt(), 1);
-    EXPECT_EQ(screen->player()->playStatus(), VoPlayerBox::Stopped);
 }

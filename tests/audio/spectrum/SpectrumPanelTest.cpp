@@ -1,18 +1,28 @@
-#include "EvenSpectrum.h"
+#include "audio/SpectrumImage.h"
+#include "audio/VoImageUtil.h"
 #include "audio/VoSpectrumPanel.h"
 #include "stubs/AudioPlayerStub.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
 
+/// A spectrum of `frames` columns, every bin at half the maximum.
+AudioPowerSpectrumInfo evenSpectrum(uint64_t frames)
+{
+    AudioPowerSpectrumInfo spectrum;
+    spectrum.frameCount = frames;
+    spectrum.rowCount = frames;
+    spectrum.powerData.assign(frames * AudioPowerSpectrumInfo::bins, 1.0);
+    spectrum.maxPower = 2.0;
+    return spectrum;
+}
+
 class SpectrumPanelTest : public ::testing::Test {
 protected:
-    AudioPlayerStubFactory players;
-    VoSpectrumPanel panel;
-
     void show(uint64_t frames, qreal containerWidth)
     {
         panel.setSpectrum(QStringLiteral("/course/take.mp3"), evenSpectrum(frames));
@@ -30,9 +40,12 @@ protected:
         players.last->setCurrentTime(seconds);
         panel.playerBox()->tick();
     }
+
+    AudioPlayerStubFactory players;
+    VoSpectrumPanel panel;
 };
 
-TEST_F(SpectrumPanelTest, WideSpectrumTurnsWholePagesNarrowOneNeverScrolls)
+TEST_F(SpectrumPanelTest, WideSpectrumTurnsWholePagesNarrowOneNeverScrollsIdleOneStandsStill)
 {
     show(1000, 300.0);
     ASSERT_EQ(panel.spectrumWidth(), 1000);
@@ -47,6 +60,14 @@ TEST_F(SpectrumPanelTest, WideSpectrumTurnsWholePagesNarrowOneNeverScrolls)
     EXPECT_NEAR(panel.contentX(), 650.0, 0.01);
     playTo(1.0); // back before the page: jumps back to the position
     EXPECT_NEAR(panel.contentX(), 100.0, 0.01);
+    // While another panel runs, the cursor stands still.
+    panel.setNeedRun(false);
+    playTo(5.0);
+    EXPECT_FLOAT_EQ(panel.playProgress(), 0.1F);
+    EXPECT_NEAR(panel.contentX(), 100.0, 0.01);
+    panel.setNeedRun(true);
+    playTo(5.0);
+    EXPECT_FLOAT_EQ(panel.playProgress(), 0.5F);
 
     VoSpectrumPanel narrow;
     narrow.setSpectrum(QStringLiteral("/course/short.mp3"), evenSpectrum(250));
@@ -60,20 +81,8 @@ TEST_F(SpectrumPanelTest, WideSpectrumTurnsWholePagesNarrowOneNeverScrolls)
     }
 }
 
-TEST_F(SpectrumPanelTest, CursorStandsStillWhileAnotherPanelRuns)
-{
-    show(1000, 300.0);
-    playTo(2.0);
-    panel.setNeedRun(false);
-    playTo(5.0);
-    EXPECT_FLOAT_EQ(panel.playProgress(), 0.2F);
-    EXPECT_EQ(panel.contentX(), 0.0);
-    panel.setNeedRun(true);
-    playTo(5.0);
-    EXPECT_FLOAT_EQ(panel.playProgress(), 0.5F);
-}
-
-TEST_F(SpectrumPanelTest, StartingTellsTheOwnerAndTheEndReturnsHomeASecondLater)
+// The owner hears of each start; at the end the cursor rests a second, then returns home.
+TEST_F(SpectrumPanelTest, StartTellsTheOwnerEndReturnsHomeASecondLaterStopAtOnce)
 {
     show(1000, 300.0);
     QSignalSpy started(&panel, &VoSpectrumPanel::playPreHandle);
@@ -82,40 +91,60 @@ TEST_F(SpectrumPanelTest, StartingTellsTheOwnerAndTheEndReturnsHomeASecondLater)
     EXPECT_EQ(started.first().at(1).value<VoSpectrumPanel *>(), &panel);
     ASSERT_GT(panel.contentX(), 0.0);
 
+    QElapsedTimer wall;
+    wall.start();
     players.last->finishPlaying();
-    EXPECT_GT(panel.playProgress(), 0.0F); // rests at the end for a moment, without blocking
-    QTest::qWait(700);
     EXPECT_GT(panel.playProgress(), 0.0F);
-    QTRY_COMPARE_WITH_TIMEOUT(panel.playProgress(), 0.0F, 1000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return panel.playProgress() == 0.0F; }, 2000));
+    EXPECT_GE(wall.elapsed(), 900);
     EXPECT_EQ(panel.contentX(), 0.0);
     EXPECT_EQ(panel.playerBox()->playStatus(), VoPlayerBox::Finished);
-}
 
-TEST_F(SpectrumPanelTest, StopAndInitPlayResetCursorAndBar)
-{
-    show(1000, 300.0);
+    // A stop, or the owner's reset, puts cursor and bar back at once.
     playTo(4.0);
     panel.stopPlay();
     EXPECT_EQ(panel.playProgress(), 0.0F);
     EXPECT_EQ(panel.contentX(), 0.0);
-
     playTo(4.0);
-    ASSERT_EQ(panel.playerBox()->playStatus(), VoPlayerBox::Playing);
     panel.initPlay();
     EXPECT_EQ(panel.playProgress(), 0.0F);
     EXPECT_EQ(panel.playerBox()->playStatus(), VoPlayerBox::Finished);
     EXPECT_EQ(panel.playerBox()->playImage(), QStringLiteral("vo_play"));
 }
 
-TEST_F(SpectrumPanelTest, PictureFollowsTheSpectrumAndItsProgress)
+// Bins at half the maximum are mid grey: floor(255 / 2) darkens white to 128. The played columns
+// (progress x width of them) let the background through at half cover; the grey stays.
+TEST_F(SpectrumPanelTest, PictureIsTheSpectrumWithThePlayedPartHalfCovered)
 {
     EXPECT_TRUE(panel.image().isNull());
     show(100, 300.0);
-    EXPECT_EQ(panel.image().size(), QSize(100, 128));
     EXPECT_EQ(panel.playerBox()->audioFileList(), QStringList{QStringLiteral("/course/take.mp3")});
     playTo(5.0);
-    EXPECT_EQ(qAlpha(panel.image().pixel(49, 0)), 127);
-    EXPECT_EQ(qAlpha(panel.image().pixel(50, 0)), 255);
+    const QImage image = panel.image();
+    ASSERT_EQ(image.size(), QSize(100, 128));
+    for (const int row : {0, 64, 127})
+        for (const auto &[column, alpha] : {std::pair{0, 127}, {49, 127}, {50, 255}, {99, 255}})
+            EXPECT_EQ(qAlpha(image.pixel(column, row)), alpha) << column << "," << row;
+    EXPECT_EQ(qRed(image.pixel(10, 5)), 128);
+    EXPECT_EQ(qRed(image.pixel(90, 5)), 128);
+    EXPECT_EQ(qAlpha(genereateRGBAData(evenSpectrum(100), 1.0F).pixel(99, 0)), 127);
+    EXPECT_TRUE(genereateRGBAData(AudioPowerSpectrumInfo{}, 0.5F).isNull());
+}
+
+TEST(ImageUtil, ReplacesOneColourAndRendersAfreshOnlyOnWideScreens)
+{
+    QImage image(2, 1, QImage::Format_RGBA8888);
+    image.setPixelColor(0, 0, QColor(0x12, 0x34, 0x56, 255));
+    image.setPixelColor(1, 0, QColor(0x12, 0x34, 0x57, 255));
+    const QImage replaced = VoImageUtil::replaceImageColor(image, 0xFF123456, 0xABCDEF);
+    EXPECT_EQ(replaced.pixelColor(0, 0), QColor(0xAB, 0xCD, 0xEF, 255));
+    EXPECT_EQ(replaced.pixelColor(1, 0).rgb() & 0xFFFFFF, 0x123457U);
+
+    EXPECT_EQ(VoImageUtil::adjustImage(image, 760.0).cacheKey(), image.cacheKey());
+    const QImage wide = VoImageUtil::adjustImage(image, 761.0);
+    EXPECT_NE(wide.cacheKey(), image.cacheKey());
+    EXPECT_EQ(wide.size(), image.size());
+    EXPECT_EQ(wide.pixelColor(1, 0), image.pixelColor(1, 0));
 }
 
 } // namespace

@@ -12,8 +12,9 @@
 
 /// A course made for quizzes, installed as the app's content for the whole test program:
 /// "1" holds 12 phrases, among them "Guten Tag" and "guten tag" (equal but for case) and
-/// "Guten Tag." (a full stop more); "2" holds 3 phrases, too few for a quiz; "3" holds 10
-/// phrases of one content, "Hallo".
+/// "Guten Tag." (a full stop more); "2" holds 3 phrases, too few for a quiz; "4" holds 10
+/// phrases that read alike: five spellings of "Guten Tag" differing in case only, each with
+/// its own translation, four German texts all translated "Fine", and "Danke" without any.
 class QuizCourse {
 public:
     static constexpr int seed = 7;
@@ -36,37 +37,47 @@ public:
             for (int i = 0; i < 3; ++i)
                 three.append(QJsonObject{{u"id"_s, 200 + i}, {u"txt"_s, u"Wenig %1"_s.arg(i)}});
             course.addCategory(2, u"Wenige"_s, {{u"en"_s, u"Few"_s}}, three);
-            QJsonArray same;
-            for (int i = 0; i < 10; ++i)
-                same.append(QJsonObject{{u"id"_s, 300 + i}, {u"txt"_s, u"Hallo"_s}});
-            course.addCategory(3, u"Gleich"_s, {{u"en"_s, u"Same"_s}}, same);
+            const QStringList alike{u"Guten Tag"_s, u"guten tag"_s, u"GUTEN TAG"_s, u"Guten tag"_s,
+                                    u"guten Tag"_s, u"Ja"_s,        u"Gut"_s,       u"Schön"_s,
+                                    u"Prima"_s,     u"Danke"_s};
+            QJsonArray four;
+            for (int i = 0; i < 10; ++i) {
+                QJsonObject phrase{{u"id"_s, 400 + i}, {u"txt"_s, alike.at(i)}};
+                if (i < 9)
+                    phrase.insert(u"wTrans"_s,
+                                  QJsonObject{{u"en"_s, i < 5 ? u"Hello %1"_s.arg(i) : u"Fine"_s}});
+                four.append(phrase);
+            }
+            course.addCategory(4, u"Ähnlich"_s, {{u"en"_s, u"Alike"_s}}, four);
             setResourceRoot(course.root());
+            // The store opens one course per process: opening it now keeps an AppWindow made
+            // later on this course rather than the sample one.
+            (void)allPhrases();
             return true;
         }();
         (void)installed;
     }
 };
 
-/// The slot of an option whose German text is the question's, -1 when none is.
-inline int rightOption(const BaseQuizViewController &quiz)
+/// The slot holding the question's own text, and one whose text differs from it even ignoring
+/// case: found without the rule under test, so that a broken rule cannot pick the taps.
+inline int askedOption(const BaseQuizViewController &quiz)
 {
-    const PhraseInfo &asked = *quiz.phraseInfos().at(quiz.currIndex());
+    const QString asked = quiz.phraseInfos().at(quiz.currIndex())->content;
     for (int i = 0; i < quiz.currOptions().size(); ++i) {
-        if (isRightAnswer(asked, *quiz.currOptions().at(i)))
+        if (quiz.currOptions().at(i)->content == asked)
             return i;
     }
     return -1;
 }
-
-/// Answers the current question right (true) or submits it without a choice (false).
-inline void answer(BaseQuizViewController &quiz, bool right)
+inline int wrongOption(const BaseQuizViewController &quiz)
 {
-    if (right) {
-        const int slot = rightOption(quiz);
-        ASSERT_GE(slot, 0);
-        quiz.selectOption(slot);
+    const QString asked = quiz.phraseInfos().at(quiz.currIndex())->content;
+    for (int i = 0; i < quiz.currOptions().size(); ++i) {
+        if (quiz.currOptions().at(i)->content.compare(asked, Qt::CaseInsensitive) != 0)
+            return i;
     }
-    quiz.submitAction();
+    return -1;
 }
 
 /// A fresh record and English as the learner's language before each test.

@@ -1,228 +1,129 @@
-#include "app/Preferences.h"
-#include "app/UserRecord.h"
-#include "content/CourseFixture.h"
-#include "content/UserInfoFile.h"
-#include "quiz/QuizAnswer.h"
+#include "quiz/QuizUiTest.h"
 #include "quiz/Word2WordVC.h"
-#include "stubs/AudioPlayerStub.h"
 
-#include <QSettings>
-#include <QSignalSpy>
+#include <QQuickWindow>
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Category "1": ten phrases that read alike on purpose. "Guten Tag", "guten tag" and
-/// "GUTEN TAG" differ in case only and each has its own translation; "Guten Morgen" and
-/// "Guten Abend" share the translation "Good day" of "Guten Tag"; "Danke" has no translations.
-void installCourse()
+using Word2WordTest = QuizTest;
+using Word2WordUiTest = QuizCourseUiTest;
+
+// The English of a phrase of QuizCourse's category "1".
+QString english(const PhraseInfo &phrase)
 {
-    static const CourseFixture course;
-    static const bool installed = [] {
-        const QList<std::pair<QString, QString>> texts{{u"Guten Tag"_s, u"Good day"_s},
-                                                       {u"guten tag"_s, u"Hello"_s},
-                                                       {u"GUTEN TAG"_s, u"Good afternoon"_s},
-                                                       {u"Guten Morgen"_s, u"Good day"_s},
-                                                       {u"Guten Abend"_s, u"Good day"_s},
-                                                       {u"Danke"_s, QString()},
-                                                       {u"Bitte"_s, u"Please"_s},
-                                                       {u"Tschüss"_s, u"Bye"_s},
-                                                       {u"Ja"_s, u"Yes"_s},
-                                                       {u"Nein"_s, u"No"_s}};
-        QJsonArray phrases;
-        for (qsizetype i = 0; i < texts.size(); ++i) {
-            QJsonObject phrase{{u"id"_s, 100 + i}, {u"txt"_s, texts.at(i).first}};
-            if (!texts.at(i).second.isEmpty())
-                phrase.insert(u"wTrans"_s, QJsonObject{{u"en"_s, texts.at(i).second}});
-            phrases.append(phrase);
-        }
-        course.addCategory(1, u"Ähnlich"_s, {{u"en"_s, u"Alike"_s}}, phrases);
-        setResourceRoot(course.root());
-        return true;
-    }();
-    (void)installed;
+    return u"Sentence %1"_s.arg(phrase.id.toInt() - 100);
 }
-
-class Word2WordTest : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        installCourse();
-        ASSERT_TRUE(writeUserInfo(initialUserInfo()));
-        QSettings().clear();
-        Preferences::instance().setLanguageType(u"en"_s);
-    }
-
-    /// A session of category "1" in the direction, showing its first question.
-    void start(Word2WordVC &quiz, bool foreign2Mother)
-    {
-        quiz.setForeign2Mother(foreign2Mother);
-        quiz.setupQuiz(10, u"Word Choice"_s, u"1"_s, 60);
-        quiz.viewDidLoad();
-    }
-
-    [[nodiscard]] static const PhraseInfo &asked(const Word2WordVC &quiz)
-    {
-        return *quiz.phraseInfos().at(quiz.currIndex());
-    }
-
-    /// The first option for which the test holds, -1 when none does.
-    template <typename Test>
-    [[nodiscard]] static int optionWhere(const Word2WordVC &quiz, Test test)
-    {
-        for (int i = 0; i < quiz.currOptions().size(); ++i) {
-            if (test(*quiz.currOptions().at(i)))
-                return i;
-        }
-        return -1;
-    }
-
-    [[nodiscard]] static int rightOption(const Word2WordVC &quiz)
-    {
-        return optionWhere(quiz, [&](const PhraseInfo &option) { return &option == &asked(quiz); });
-    }
-
-    QRandomGenerator random{7};
-    AudioPlayerStubFactory players;
-};
 
 } // namespace
 
-TEST_F(Word2WordTest, AsksInTheMotherLanguageByDefaultAndOffersGermanTexts)
+// Whatever the buttons show, an answer is right when its German text is the question's but
+// for case: another spelling of "Guten Tag" is right, another phrase translated "Fine" is not.
+TEST_F(Word2WordTest, JudgesByTheGermanTextInBothDirections)
 {
-    Word2WordVC quiz(random);
-    EXPECT_FALSE(quiz.foreign2Mother());
-    start(quiz, false);
-    for (int i = 0; i < 10; ++i) {
-        ASSERT_EQ(quiz.currIndex(), i);
-        const PhraseInfo &phrase = asked(quiz);
-        EXPECT_EQ(quiz.currText(), translation(phrase, u"en"_s));
-        if (phrase.content == u"Danke"_s) {
-            EXPECT_EQ(quiz.currText(), u"Danke"_s) << "no translation: its German text stands in";
-        }
-        QStringList german;
-        for (const PhraseInfo *option : quiz.currOptions())
-            german.append(foreignText(*option));
-        EXPECT_EQ(quiz.optionTexts(), german);
-        ASSERT_GE(rightOption(quiz), 0);
-        // Every other answer is right; the wrong ones leave the choice out.
-        if (i % 2 == 0)
-            quiz.selectOption(rightOption(quiz));
-        quiz.submitAction();
-        if (i == 0) {
-            EXPECT_EQ(quiz.score(), 10);
-        }
-    }
-    ASSERT_TRUE(quiz.finished());
-    EXPECT_EQ(quiz.score(), 50);
-    EXPECT_EQ(userInfoInt(UserInfoKey::quizTotalScore), 50);
-    EXPECT_EQ(userInfoInt(UserInfoKey::quizCount), 1);
-
-    const QuizResultModel &results = *quiz.results();
-    ASSERT_EQ(results.rowCount(), 10);
-    EXPECT_EQ(results.row(0).srcText, foreignText(*quiz.phraseInfos().at(0)));
-    EXPECT_EQ(results.row(0).testText, foreignText(*quiz.phraseInfos().at(0)))
-        << "the answers read in German, as they were offered";
-    EXPECT_EQ(results.row(0).testTextColor, QuizResultModel::rightColor());
-    EXPECT_EQ(results.row(1).testText, u"-"_s);
-    EXPECT_TRUE(players.requested.isEmpty()) << "nothing is heard during the questions";
-}
-
-TEST_F(Word2WordTest, AsksInGermanAndOffersMotherLanguageTextsUntilTheTimeIsUp)
-{
-    Word2WordVC quiz(random);
-    start(quiz, true);
-    for (int i = 0; i < 3; ++i) {
-        const PhraseInfo &phrase = asked(quiz);
-        EXPECT_EQ(quiz.currText(), foreignText(phrase));
-        QStringList english;
-        for (const PhraseInfo *option : quiz.currOptions())
-            english.append(translation(*option, u"en"_s));
-        EXPECT_EQ(quiz.optionTexts(), english);
-        quiz.selectOption(rightOption(quiz));
-        quiz.submitAction();
-    }
-    // The fourth question is marked but never submitted when the time runs out.
-    const int marked = rightOption(quiz);
-    quiz.selectOption(marked);
-    QTest::qWait(1700);
-    EXPECT_TRUE(players.requested.isEmpty()) << "no delayed play as in the listening quizzes";
-    while (!quiz.finished())
-        quiz.tick();
-
-    EXPECT_EQ(quiz.score(), 30);
-    EXPECT_EQ(userInfoInt(UserInfoKey::quizTotalScore), 30);
-    const QuizResultModel &results = *quiz.results();
-    ASSERT_EQ(results.rowCount(), 10);
-    EXPECT_EQ(results.row(0).srcText, foreignText(*quiz.phraseInfos().at(0)));
-    EXPECT_EQ(results.row(0).testText, translation(*quiz.phraseInfos().at(0), u"en"_s))
-        << "the answers read in the mother language, as they were offered";
-    EXPECT_EQ(results.row(3).testText, translation(*quiz.currOptions().at(marked), u"en"_s));
-    EXPECT_EQ(results.row(9).testText, u"-"_s);
-
-    quiz.playClickedItem(0);
-    EXPECT_EQ(players.requested, QStringList{soundPath(*quiz.phraseInfos().at(0))})
-        << "a result row is heard when tapped";
-}
-
-// Whatever the buttons show, an answer is right when its German text is the question's, ignoring
-// case: another phrase of that text is right, a phrase that only translates alike is not.
-TEST_F(Word2WordTest, JudgesByTheGermanTextWhateverTheOptionsShow)
-{
+    const QStringList fine{u"Ja"_s, u"Gut"_s, u"Schön"_s, u"Prima"_s};
+    int twins = 0;
+    int lookalikes = 0;
     for (const bool foreign2Mother : {true, false}) {
-        int sameGerman = 0;
-        int sameTranslation = 0;
-        for (int session = 0; session < 4; ++session) {
-            Word2WordVC quiz(random);
-            start(quiz, foreign2Mother);
-            while (!quiz.finished()) {
-                const PhraseInfo &phrase = asked(quiz);
-                const int twin = optionWhere(quiz, [&](const PhraseInfo &option) {
-                    return &option != &phrase &&
-                           foreignText(option).toLower() == foreignText(phrase).toLower();
-                });
-                const int lookalike = optionWhere(quiz, [&](const PhraseInfo &option) {
-                    return motherText(option) == motherText(phrase) &&
-                           foreignText(option).toLower() != foreignText(phrase).toLower();
-                });
-                const int before = quiz.score();
-                if (twin >= 0) {
-                    quiz.selectOption(twin);
-                    quiz.submitAction();
-                    EXPECT_EQ(quiz.score(), before + 10)
-                        << qPrintable(foreignText(phrase)) << " answered by "
-                        << qPrintable(quiz.optionTexts().value(twin));
-                    ++sameGerman;
-                } else if (lookalike >= 0) {
-                    quiz.selectOption(lookalike);
-                    quiz.submitAction();
-                    EXPECT_EQ(quiz.score(), before)
-                        << qPrintable(foreignText(phrase)) << " answered by "
-                        << qPrintable(foreignText(*quiz.currOptions().at(lookalike)));
-                    ++sameTranslation;
-                } else {
-                    quiz.submitAction();
-                }
+        Word2WordVC quiz(random);
+        quiz.setForeign2Mother(foreign2Mother);
+        quiz.setupQuiz(10, u"Word Choice"_s, u"4"_s, 60);
+        quiz.viewDidLoad();
+        QList<bool> right;
+        for (int i = 0; i < 10; ++i) {
+            const PhraseInfo *asked = quiz.phraseInfos().at(i);
+            int twin = -1;
+            int lookalike = -1;
+            for (int o = 0; o < 4; ++o) {
+                const PhraseInfo *option = quiz.currOptions().at(o);
+                if (option != asked &&
+                    option->content.compare(asked->content, Qt::CaseInsensitive) == 0)
+                    twin = o;
+                if (option != asked && fine.contains(option->content) &&
+                    fine.contains(asked->content))
+                    lookalike = o;
+            }
+            quiz.selectOption(twin >= 0 ? twin : lookalike);
+            quiz.submitAction();
+            right.append(twin >= 0);
+            twins += twin >= 0 ? 1 : 0;
+            lookalikes += twin < 0 && lookalike >= 0 ? 1 : 0;
+        }
+        ASSERT_TRUE(quiz.finished());
+        EXPECT_EQ(quiz.score(), 10 * right.count(true));
+        for (int i = 0; i < 10; ++i)
+            EXPECT_EQ(quiz.results()->row(i).testTextColor,
+                      right.at(i) ? QuizResultModel::rightColor() : QuizResultModel::wrongColor());
+    }
+    EXPECT_GT(twins, 0) << "the draw offered no other spelling";
+    EXPECT_GT(lookalikes, 0) << "the draw offered no phrase of equal translation";
+}
+
+TEST_F(Word2WordUiTest, PlaysASessionInEachDirectionThenTheQuestionScrollsWhenCramped)
+{
+    for (const bool foreign2Mother : {false, true}) {
+        ASSERT_TRUE(writeUserInfo(initialUserInfo()));
+        const QString suffix = foreign2Mother ? u"-from-german"_s : QString();
+        auto *quiz = pushQuiz<Word2WordVC>(u"Word2WordPage.qml"_s,
+                                           u"categoryId: \"1\", foreign2Mother: %1"_s.arg(
+                                               foreign2Mother ? u"true"_s : u"false"_s));
+        ASSERT_NE(quiz, nullptr);
+        EXPECT_EQ(text(u"toolBarTitle"_s), foreign2Mother
+                                               ? u"Foreign Language -> Mother Language"_s
+                                               : u"Mother Language -> Foreign Language"_s);
+
+        // Seven right by taps, one wrong by keys, two without a choice.
+        for (int i = 0; i < 10; ++i) {
+            ASSERT_EQ(quiz->currIndex(), i);
+            const PhraseInfo &asked = *quiz->phraseInfos().at(i);
+            EXPECT_EQ(text(u"currText"_s), foreign2Mother ? asked.content : english(asked));
+            const int right = askedOption(*quiz);
+            ASSERT_GE(right, 0);
+            EXPECT_EQ(text(u"option%1"_s.arg(right)),
+                      foreign2Mother ? english(asked) : asked.content);
+            if (i < 7) {
+                app.tapCentre(item(u"option%1"_s.arg(right)));
+                if (i == 0)
+                    (void)app.screenshot(u"word-choice-question"_s + suffix);
+                app.tapCentre(item(u"submitBtn"_s));
+            } else {
+                if (i == 7)
+                    QTest::keyClick(app.window(), Qt::Key(Qt::Key_1 + wrongOption(*quiz)));
+                QTest::keyClick(app.window(), Qt::Key_Return);
             }
         }
-        EXPECT_GT(sameGerman, 0) << "the draw offered no phrase of equal German text";
-        EXPECT_GT(sameTranslation, 0) << "the draw offered no phrase of equal translation";
-    }
-}
 
-TEST_F(Word2WordTest, DirectionIsFixedOnceTheFirstQuestionIsShown)
-{
-    Word2WordVC quiz(random);
-    QSignalSpy changed(&quiz, &Word2WordVC::foreign2MotherChanged);
-    quiz.setForeign2Mother(true);
-    quiz.setForeign2Mother(true);
-    EXPECT_EQ(changed.count(), 1);
-    quiz.setupQuiz(10, u"Word Choice"_s, u"1"_s, 60);
-    quiz.viewDidLoad();
-    quiz.setForeign2Mother(false);
-    EXPECT_TRUE(quiz.foreign2Mother());
-    EXPECT_EQ(changed.count(), 1);
-    quiz.submitAction();
-    EXPECT_EQ(quiz.currText(), foreignText(asked(quiz)));
+        ASSERT_TRUE(quiz->finished());
+        expectScoreLabel(70, "#c76114");
+        EXPECT_FALSE(item(u"questionScroller"_s)->isVisible());
+        expectOneQuizRecorded(70);
+        EXPECT_TRUE(players.requested.isEmpty()) << "nothing is heard during the questions";
+
+        QQuickItem *table = item(u"resultTable"_s);
+        ASSERT_TRUE(table->isVisible());
+        EXPECT_EQ(table->property("count").toInt(), 10);
+        QQuickItem *row = AppWindow::listRow(table, 0);
+        const PhraseInfo &first = *quiz->phraseInfos().at(0);
+        EXPECT_EQ(findItem(row, u"srcTextLbl"_s)->property("text").toString(), first.content);
+        // Answers read in the language they were offered in.
+        expectAnswer(0, foreign2Mother ? english(first) : first.content, true);
+        (void)app.screenshot(u"word-choice-results"_s + suffix);
+        app.tapCentre(row);
+        EXPECT_EQ(players.requested, QStringList{soundPath(*quiz->phraseInfos().at(0))});
+        players.requested.clear();
+        QTest::keyClick(app.window(), Qt::Key_Escape);
+        ASSERT_TRUE(app.waitForDepth(1));
+    }
+
+    leaveHalfWay<Word2WordVC>(u"Word2WordPage.qml"_s, [this] {
+        app.window()->resize(app.window()->width(), 300);
+        QQuickItem *scroller = item(u"questionScroller"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return scroller->property("contentHeight").toReal() > scroller->height();
+        })) << "the submit button can be scrolled to";
+    });
+    expectOneQuizRecorded(70);
 }

@@ -1,7 +1,5 @@
 #include "speech/LogPowerSpectrum.h"
 
-#include "DirectSpectrum.h"
-
 #include <cmath>
 #include <gtest/gtest.h>
 #include <numbers>
@@ -9,11 +7,12 @@
 
 namespace {
 
-FrontEndFraming framingOf(const DirectFraming &direct)
-{
-    return {direct.frameLength, direct.frameShift, direct.fftSize, direct.preEmphasis,
-            direct.removeDc};
-}
+/// The installed English model's front end: 25.625 ms frames every 10 ms at 16 kHz, a 512-point
+/// FFT, pre-emphasis 0.97, no DC removal.
+constexpr FrontEndFraming english{410, 160, 512, 0.97, false};
+
+/// Sum of a 410-point Hamming window, 0.54 N - 0.46 (its cosines cancel but for one end).
+constexpr double hammingSum = 0.54 * 410 - 0.46;
 
 std::vector<int16_t> sine(size_t count, double frequency, double amplitude)
 {
@@ -25,84 +24,40 @@ std::vector<int16_t> sine(size_t count, double frequency, double amplitude)
     return samples;
 }
 
-/// Deterministic speech-like noise with an offset, so that DC removal has work to do.
-std::vector<int16_t> noise(size_t count)
-{
-    std::vector<int16_t> samples(count);
-    uint32_t state = 12345;
-    for (int16_t &sample : samples) {
-        state = state * 1664525u + 1013904223u;
-        sample = static_cast<int16_t>(static_cast<int>(state >> 20) - 2048 + 700);
-    }
-    return samples;
-}
-
 } // namespace
 
 TEST(FrontEndFraming, FullFramesThenOneForTheRest)
 {
-    const FrontEndFraming framing = framingOf(englishFrontEnd);
-    EXPECT_EQ(framing.frameCount(0), 0u);
-    EXPECT_EQ(framing.frameCount(1), 1u);
-    EXPECT_EQ(framing.frameCount(409), 1u);
-    EXPECT_EQ(framing.frameCount(410), 2u);
-    EXPECT_EQ(framing.frameCount(570), 3u);
-    // 3 s: 98 full frames and the last 250 samples.
-    EXPECT_EQ(framing.frameCount(16000), 99u);
-    EXPECT_EQ(framing.frameCount(16090), 100u);
-    EXPECT_EQ(framing.frameCount(48000), 299u);
+    // 16000 samples: 98 full frames and the last 250 samples.
+    const std::pair<size_t, uint64_t> counts[] = {
+        {0, 0}, {1, 1}, {409, 1}, {410, 2}, {570, 3}, {16000, 99}, {16090, 100}, {48000, 299}};
+    for (const auto &[samples, frames] : counts)
+        EXPECT_EQ(english.frameCount(samples), frames) << samples << " samples";
+
+    // A damaged model's values make no frames rather than reading past a frame.
+    FrontEndFraming smallFft = english;
+    smallFft.fftSize = 256;
+    EXPECT_EQ(smallFft.frameCount(16000), 0u);
+    EXPECT_TRUE(logPowerSpectrum(sine(1000, 1000.0, 8000.0), 5, smallFft).powerData.empty());
+    FrontEndFraming noShift = english;
+    noShift.frameShift = 0;
+    EXPECT_FALSE(noShift.isUsable());
 }
 
-TEST(FrontEndFraming, UnusableValuesMakeNoFrames)
+TEST(LogPowerSpectrum, ToneLandsInItsBinAtThePowerWorkedOutByHand)
 {
-    FrontEndFraming framing = framingOf(englishFrontEnd);
-    framing.fftSize = 256; // smaller than a frame
-    EXPECT_FALSE(framing.isUsable());
-    EXPECT_EQ(framing.frameCount(16000), 0u);
-    EXPECT_TRUE(logPowerSpectrum(noise(1000), 5, framing).powerData.empty());
-    framing = framingOf(englishFrontEnd);
-    framing.frameShift = 0;
-    EXPECT_FALSE(framing.isUsable());
-}
-
-TEST(LogPowerSpectrum, RowsAreTheFramesSpectraByDefinition)
-{
-    const std::vector<int16_t> samples = noise(4000);
-    for (const bool removeDc : {false, true}) {
-        DirectFraming direct = englishFrontEnd;
-        direct.removeDc = removeDc;
-        const FrontEndFraming framing = framingOf(direct);
-        const uint64_t frames = framing.frameCount(samples.size());
-        const AudioPowerSpectrumInfo spectrum = logPowerSpectrum(samples, frames, framing);
-        ASSERT_EQ(spectrum.frameCount, frames);
-        // The first frame, one in the middle and the zero-padded last one.
-        for (const uint64_t frame : {uint64_t{0}, frames / 2, frames - 1})
-            expectRowMatchesDirect(spectrum, samples, frame, direct);
-    }
-}
-
-TEST(LogPowerSpectrum, OneRowMoreThanFramesAllocatedAndLeftZero)
-{
-    const std::vector<int16_t> samples = noise(2000);
-    const AudioPowerSpectrumInfo spectrum =
-        logPowerSpectrum(samples, 10, framingOf(englishFrontEnd));
-    EXPECT_EQ(spectrum.frameCount, 10u);
-    EXPECT_EQ(spectrum.rowCount, 11u);
-    EXPECT_EQ(spectrum.spectrumSize, 128);
-    ASSERT_EQ(spectrum.powerData.size(), 11u * 128u);
-    for (int bin = 0; bin < 128; ++bin)
-        EXPECT_EQ(spectrum.at(10, bin), 0.0);
-}
-
-TEST(LogPowerSpectrum, ToneLandsInItsBinAndSetsTheMaximum)
-{
-    // 1 kHz is bin 32 of a 512-point FFT at 16 kHz.
+    // 1 kHz is bin 32 of a 512-point FFT at 16 kHz. There a tone of amplitude A has the power
+    // (A / 2 x the window's sum)^2, times |1 - 0.97 e^(-i pi / 8)|^2 for the pre-emphasis.
+    const double emphasis = 1.0 + 0.97 * 0.97 - 2.0 * 0.97 * std::cos(std::numbers::pi / 8.0);
+    const double expected = std::log(std::pow(4000.0 * hammingSum, 2.0) * emphasis);
     const std::vector<int16_t> samples = sine(3200, 1000.0, 8000.0);
-    const FrontEndFraming framing = framingOf(englishFrontEnd);
-    const AudioPowerSpectrumInfo spectrum =
-        logPowerSpectrum(samples, framing.frameCount(samples.size()), framing);
+    const uint64_t frames = english.frameCount(samples.size());
+    const AudioPowerSpectrumInfo spectrum = logPowerSpectrum(samples, frames, english);
+    ASSERT_EQ(spectrum.frameCount, 19u);
+    ASSERT_EQ(spectrum.rowCount, 20u);
+    ASSERT_EQ(spectrum.powerData.size(), 20u * 128u);
     double largest = 0.0;
-    for (uint64_t frame = 0; frame < spectrum.frameCount; ++frame) {
+    for (uint64_t frame = 0; frame < frames; ++frame) {
         int loudest = 0;
         for (int bin = 0; bin < 128; ++bin) {
             largest = std::max(largest, spectrum.at(frame, bin));
@@ -110,38 +65,45 @@ TEST(LogPowerSpectrum, ToneLandsInItsBinAndSetsTheMaximum)
                 loudest = bin;
         }
         EXPECT_EQ(loudest, 32) << "frame " << frame;
+        // The last frame is zero-padded, so lower.
+        if (frame + 1 < frames) {
+            EXPECT_NEAR(spectrum.at(frame, 32), expected, 0.01) << "frame " << frame;
+        }
     }
     EXPECT_EQ(spectrum.maxPower, largest);
+    // The row past the last frame is there and left zero.
+    for (int bin = 0; bin < 128; ++bin)
+        EXPECT_EQ(spectrum.at(frames, bin), 0.0);
 }
 
-TEST(LogPowerSpectrum, SilenceIsFlooredToZero)
+TEST(LogPowerSpectrum, SilenceIsZeroAndAnOffsetIsRemovedOnlyWhenAsked)
 {
-    const std::vector<int16_t> samples(1600, 0);
-    const AudioPowerSpectrumInfo spectrum =
-        logPowerSpectrum(samples, 9, framingOf(englishFrontEnd));
-    for (const double value : spectrum.powerData)
+    const AudioPowerSpectrumInfo silence =
+        logPowerSpectrum(std::vector<int16_t>(1600, 0), 9, english);
+    for (const double value : silence.powerData)
         ASSERT_EQ(value, 0.0);
-    EXPECT_EQ(spectrum.maxPower, 0.0);
-}
+    EXPECT_EQ(silence.maxPower, 0.0);
 
-TEST(LogPowerSpectrum, ConstantOffsetIsRemovedOnlyWhenAsked)
-{
-    // Without pre-emphasis a constant is pure DC: a strong bin 0 unless its mean is removed.
-    const std::vector<int16_t> samples(1600, 1000);
-    FrontEndFraming framing = framingOf(englishFrontEnd);
+    // Without pre-emphasis a constant 1000 is pure DC: bin 0 holds (1000 x the window's sum)^2,
+    // unless the frame's mean is removed.
+    const std::vector<int16_t> offset(1600, 1000);
+    FrontEndFraming framing = english;
     framing.preEmphasis = 0.0;
-    EXPECT_GT(logPowerSpectrum(samples, 3, framing).at(1, 0), 20.0);
+    EXPECT_NEAR(logPowerSpectrum(offset, 3, framing).at(1, 0),
+                std::log(std::pow(1000.0 * hammingSum, 2.0)), 0.01);
     framing.removeDc = true;
-    EXPECT_EQ(logPowerSpectrum(samples, 3, framing).at(1, 0), 0.0);
+    EXPECT_EQ(logPowerSpectrum(offset, 3, framing).at(1, 0), 0.0);
 }
 
 TEST(LogPowerSpectrum, SmallFftKeepsOnlyItsOwnBins)
 {
-    // A 128-point FFT has 65 bins; the rest of each row stays 0.
-    const std::vector<int16_t> samples = noise(1000);
-    const FrontEndFraming framing{100, 50, 128, 0.97, false};
-    const AudioPowerSpectrumInfo spectrum = logPowerSpectrum(samples, 4, framing);
-    EXPECT_GT(spectrum.at(1, 64), 0.0);
+    // A 128-point FFT has 65 bins, the last at half the sampling rate; the rest of a row stays 0.
+    std::vector<int16_t> samples(1000);
+    for (size_t n = 0; n < samples.size(); ++n)
+        samples[n] = n % 2 ? 8000 : -8000;
+    const AudioPowerSpectrumInfo spectrum =
+        logPowerSpectrum(samples, 4, {100, 50, 128, 0.97, false});
+    EXPECT_GT(spectrum.at(1, 64), 20.0);
     for (int bin = 65; bin < 128; ++bin)
         EXPECT_EQ(spectrum.at(1, bin), 0.0);
 }

@@ -1,4 +1,3 @@
-#include "WordResults.h"
 #include "content/QtPrinters.h"
 #include "speech/VoPSRecognizer.h"
 
@@ -9,16 +8,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Scored {
-    float score{-1.0f};
-    QVariantMap advices;
-};
-
-Scored scored(const QList<QVariantMap> &words, const QString &phrase)
+QVariantMap wordResult(const QString &word, const QVariant &posterior)
 {
-    Scored result;
-    result.score = VoPSRecognizer::getScore(words, phrase, result.advices);
-    return result;
+    return {{u"word"_s, word}, {u"logProbability"_s, posterior}};
+}
+
+/// Word results from (word, score out of 100) pairs.
+QList<QVariantMap> said(std::initializer_list<std::pair<const char *, double>> words)
+{
+    QList<QVariantMap> results;
+    for (const auto &[word, score] : words)
+        results.append(wordResult(QString::fromUtf8(word), score / 100.0));
+    return results;
 }
 
 QVariantMap wordsScore(const QString &text)
@@ -26,22 +27,117 @@ QVariantMap wordsScore(const QString &text)
     return {{u"words_score"_s, text}};
 }
 
+QVariantMap withAdvice(QVariantMap advices, const QString &key, const QString &text)
+{
+    advices.insert(key, text);
+    return advices;
+}
+
+const QVariantMap noVoice{{u"no_voice"_s, u"No voice detected"_s}};
+const QVariantMap noRightWord{{u"no_right_word"_s, u"No correct words detected"_s}};
+const QString wrongSequence = u"wrong_sequence"_s;
+const QString inWordSequence = u"Problems a bit in word sequence"_s;
+
+/// x + x (1 - x / 100): the curve that lifts a raw score's middle.
+constexpr double curved(double raw)
+{
+    return raw + raw * (1.0 - raw / 100.0);
+}
+
 } // namespace
 
-TEST(PhraseScore, GutenMorgenScores91)
+// Every expected score below was worked out by hand from the rules: each matched word adds its
+// score / the phrase's word count, each unmatched word takes 0.1 x 100 / (words said), misplaced
+// words take 0.1 x floor(100 x misplaced / matched), then the curve, clamped to 0-100.
+TEST(PhraseScore, Cases)
 {
-    const Scored written = scored({wordResult(u"<s>"_s, 1.0), wordResult(u"guten"_s, 0.8),
-                                   wordResult(u"morgen"_s, 0.6), wordResult(u"</s>"_s, 1.0)},
-                                  u"Guten Morgen."_s);
-    EXPECT_EQ(written.score, 91.0f);
-    EXPECT_EQ(written.advices, wordsScore(u"GUTEN:80;MORGEN:60"_s));
-
-    // The recogniser's posteriors are floats: 0.6f x 100 in single precision is 60.000004,
-    // and the text keeps the digits that tell that float apart.
-    const Scored recognised =
-        scored({wordResult(u"GUTEN"_s, 0.8f), wordResult(u"MORGEN"_s, 0.6f)}, u"Guten Morgen."_s);
-    EXPECT_EQ(recognised.score, 91.0f);
-    EXPECT_EQ(recognised.advices, wordsScore(u"GUTEN:80;MORGEN:60.000004"_s));
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    QList<QVariantMap> nineExtras = said({{"ja", 5}});
+    for (const char *extra : {"a", "b", "c", "d", "e", "f", "g", "h", "i"})
+        nineExtras.append(wordResult(QString::fromLatin1(extra), 0.9));
+    const struct {
+        QList<QVariantMap> words;
+        QString phrase;
+        double score;
+        QVariantMap advices; ///< not compared when empty
+    } cases[] = {
+        {{wordResult(u"<s>"_s, 1.0), wordResult(u"guten"_s, 0.8), wordResult(u"morgen"_s, 0.6),
+          wordResult(u"</s>"_s, 1.0)},
+         u"Guten Morgen."_s,
+         91.0,
+         wordsScore(u"GUTEN:80;MORGEN:60"_s)},
+        // 0.6f x 100 in single precision is 60.000004, and the text keeps the float's digits.
+        {{wordResult(u"GUTEN"_s, 0.8f), wordResult(u"MORGEN"_s, 0.6f)},
+         u"Guten Morgen."_s,
+         91.0,
+         wordsScore(u"GUTEN:80;MORGEN:60.000004"_s)},
+        {said({{"guten", 50}, {"tag", 50}}), u"Guten Tag"_s, 75.0,
+         wordsScore(u"GUTEN:50;TAG:50"_s)},
+        {said({{"guten", 100}, {"tag", 100}}), u"Guten Tag"_s, 100.0, {}},
+        // 5 - 9 extra-word points: below zero before the curve, 0 after it.
+        {nineExtras, u"Ja"_s, 0.0, wordsScore(u"JA:5"_s)},
+        {said({{"eins", 80}, {"zwei", 80}, {"drei", 80}}), u"eins zwei drei vier"_s, curved(60),
+         wordsScore(u"EINS:80;ZWEI:80;DREI:80;VIER:0"_s)},
+        // Five words, two unmatched: 0.1 x 100 x 2 / 5 = 4 points off.
+        {said({{"eins", 80}, {"hallo", 80}, {"zwei", 80}, {"drei", 80}, {"bitte", 80}}),
+         u"eins zwei drei vier"_s, curved(56), wordsScore(u"EINS:80;ZWEI:80;DREI:80;VIER:0"_s)},
+        // JA JA NEIN in the phrase's order against JA NEIN: one misplaced of two, not more than
+        // half, so no advice; 5 points off.
+        {said({{"ja", 90}, {"nein", 90}}), u"Ja, ja, nein."_s, curved(55),
+         wordsScore(u"JA:90;JA:90;NEIN:90"_s)},
+        // Two misplaced of three is; floor(200 / 3) = 66 gives 6.6 points off.
+        {said({{"ja", 100}, {"nein", 100}, {"danke", 100}}), u"Ja, ja, nein danke."_s, curved(68.4),
+         withAdvice(wordsScore(u"JA:100;JA:100;NEIN:100;DANKE:100"_s), wrongSequence,
+                    inWordSequence)},
+        {said({{"morgen", 100}, {"guten", 100}}), u"Guten Morgen"_s, curved(90),
+         withAdvice(wordsScore(u"GUTEN:100;MORGEN:100"_s), wrongSequence, inWordSequence)},
+        // GUTEN GUTEN TAG loses its second GUTEN but keeps all three scores, so the word part is
+        // (40 + 60) / 2 and TAG is credited with 60.
+        {said({{"guten", 40}, {"guten", 60}, {"tag", 100}}), u"Guten Tag"_s, 75.0,
+         wordsScore(u"GUTEN:40;TAG:60"_s)},
+        // A A A A B with one A in the phrase: the A that slides into a removed slot is passed
+        // over, so only the first and third go: A A B, one misplaced of three, 3.3 off.
+        {said({{"ja", 10}, {"ja", 20}, {"ja", 30}, {"ja", 40}, {"nein", 50}}), u"Ja nein"_s,
+         curved(26.7), wordsScore(u"JA:10;NEIN:30"_s)},
+        // Each word has its own walk over what the previous walk left: A B A B loses its first
+        // A, then the first B of B A B, leaving A B in order.
+        {said({{"ja", 10}, {"nein", 20}, {"ja", 30}, {"nein", 40}}), u"Ja nein"_s, curved(15),
+         wordsScore(u"JA:10;NEIN:20"_s)},
+        {said({{"danke", 80}, {"danke", 60}}), u"Danke, danke!"_s, curved(70),
+         wordsScore(u"DANKE:80;DANKE:80"_s)},
+        {{wordResult(u"hello(2)"_s, 1.0)}, u"Hello!"_s, 100.0, wordsScore(u"HELLO:100"_s)},
+        {{}, u"Hallo"_s, 0.0, noVoice},
+        {{wordResult(u"<s>"_s, 1.0), wordResult(u"<sil>"_s, 0.9), wordResult(u"</s>"_s, 1.0)},
+         u"Hallo"_s,
+         0.0,
+         noVoice},
+        {said({{"hallo", 90}}), u"Guten Morgen"_s, 0.0, noRightWord},
+        // A cut before "(" at 0 leaves an empty word.
+        {said({{"(2)", 90}, {"", 90}}), u"Guten Morgen"_s, 0.0, noRightWord},
+        // Umlauts cut the phrase's word down to its ASCII tail, which the learner never says.
+        {said({{"mueller", 90}, {"müller", 90}}), u"Müller"_s, 0.0, noRightWord},
+        {said({{"hallo", 90}}), u"Привет!"_s, 0.0, noRightWord},
+        {said({{"hallo", 90}}), u"?!"_s, 0.0, noRightWord},
+        {said({{"hallo", 90}}), QString(), 0.0, noRightWord},
+        // Broken posteriors stay in range: past 200 the curve turns below zero, and at infinity
+        // it is not a number.
+        {{wordResult(u"guten"_s, nan), wordResult(u"tag"_s, 1.0)}, u"Guten Tag"_s, 0.0, {}},
+        {{wordResult(u"guten"_s, -infinity)}, u"Guten Tag"_s, 0.0, {}},
+        {{wordResult(u"guten"_s, infinity)}, u"Guten Tag"_s, 0.0, {}},
+        {{wordResult(u"guten"_s, 5.0), wordResult(u"tag"_s, 5.0)}, u"Guten Tag"_s, 0.0, {}},
+        {{wordResult(u"guten"_s, u"viel"_s)}, u"Guten Tag"_s, 0.0, wordsScore(u"GUTEN:0;TAG:0"_s)},
+    };
+    int index = 0;
+    for (const auto &c : cases) {
+        QVariantMap advices;
+        const float score = VoPSRecognizer::getScore(c.words, c.phrase, advices);
+        EXPECT_NEAR(score, c.score, 1e-3) << "case " << index;
+        if (!c.advices.isEmpty()) {
+            EXPECT_EQ(advices, c.advices) << "case " << index;
+        }
+        ++index;
+    }
 }
 
 TEST(PhraseScore, WordScoreIsThePosteriorTimes100)
@@ -54,145 +150,9 @@ TEST(PhraseScore, WordScoreIsThePosteriorTimes100)
     EXPECT_EQ(withPosterior(0.6f), 0.6f * 100.0f);
     EXPECT_EQ(withPosterior(0.6), 60.0f);
     // Anything but a number counts as a posterior of 0.
-    EXPECT_EQ(withPosterior(u"0.5"_s), 0.0f);
-    EXPECT_EQ(withPosterior(true), 0.0f);
-    EXPECT_EQ(withPosterior(QVariant()), 0.0f);
+    for (const QVariant &notANumber : {QVariant(u"0.5"_s), QVariant(true), QVariant()})
+        EXPECT_EQ(withPosterior(notANumber), 0.0f);
     EXPECT_EQ(VoPSRecognizer::getWordScore({{u"word"_s, u"JA"_s}}), 0.0f);
-}
-
-TEST(PhraseScore, CurveLiftsTheMiddleAndClamps)
-{
-    EXPECT_EQ(scored(saidWords({{"guten", 50}, {"tag", 50}}), u"Guten Tag"_s).score, 75.0f);
-    EXPECT_EQ(scored(saidWords({{"guten", 100}, {"tag", 100}}), u"Guten Tag"_s).score, 100.0f);
-    // 5 - 9 extra-word points: below zero before the curve, 0 after it.
-    EXPECT_EQ(scored(saidWords({{"ja", 5},
-                                {"a", 90},
-                                {"b", 90},
-                                {"c", 90},
-                                {"d", 90},
-                                {"e", 90},
-                                {"f", 90},
-                                {"g", 90},
-                                {"h", 90},
-                                {"i", 90}}),
-                     u"Ja"_s)
-                  .score,
-              0.0f);
-}
-
-TEST(PhraseScore, ExtraWordsCostATenthOfTheirShareOf100)
-{
-    const QString phrase = u"eins zwei drei vier"_s;
-    const Scored exact = scored(saidWords({{"eins", 80}, {"zwei", 80}, {"drei", 80}}), phrase);
-    EXPECT_NEAR(exact.score, 84.0, 1e-4); // 60 before the curve
-
-    // Five words, two unmatched: 0.1 x 100 x 2 / 5 = 4 points off before the curve.
-    const Scored extra =
-        scored(saidWords({{"eins", 80}, {"hallo", 80}, {"zwei", 80}, {"drei", 80}, {"bitte", 80}}),
-               phrase);
-    EXPECT_NEAR(extra.score, 56.0 + 56.0 * 0.44, 1e-4);
-    EXPECT_EQ(extra.advices, wordsScore(u"EINS:80;ZWEI:80;DREI:80;VIER:0"_s));
-}
-
-TEST(PhraseScore, OrderCheckCountsMisplacedWords)
-{
-    // The phrase's matched words in its order, JA JA NEIN, against JA NEIN: one misplaced of
-    // two, which is not more than half; 5 points off.
-    const Scored oneOfTwo = scored(saidWords({{"ja", 90}, {"nein", 90}}), u"Ja, ja, nein."_s);
-    EXPECT_FALSE(oneOfTwo.advices.contains(u"wrong_sequence"_s));
-    EXPECT_NEAR(oneOfTwo.score, 55.0 + 55.0 * 0.45, 1e-4);
-
-    // Two misplaced of three is; floor(200 / 3) = 66 gives 6.6 points off.
-    const Scored twoOfThree =
-        scored(saidWords({{"ja", 100}, {"nein", 100}, {"danke", 100}}), u"Ja, ja, nein danke."_s);
-    EXPECT_EQ(twoOfThree.advices.value(u"wrong_sequence"_s), u"Problems a bit in word sequence"_s);
-    EXPECT_NEAR(twoOfThree.score, 68.4 + 68.4 * 0.316, 1e-3);
-
-    const Scored swapped = scored(saidWords({{"morgen", 100}, {"guten", 100}}), u"Guten Morgen"_s);
-    EXPECT_TRUE(swapped.advices.contains(u"wrong_sequence"_s));
-    EXPECT_NEAR(swapped.score, 90.0 + 90.0 * 0.1, 1e-4);
-}
-
-TEST(PhraseScore, SurplusWordsLeaveTheirScoresBehind)
-{
-    // M = GUTEN GUTEN TAG, S = 40 60 100: M loses its second GUTEN but S keeps all three, so
-    // the word part is (40 + 60) / 2 and TAG is credited with 60.
-    const Scored repeated =
-        scored(saidWords({{"guten", 40}, {"guten", 60}, {"tag", 100}}), u"Guten Tag"_s);
-    EXPECT_EQ(repeated.score, 75.0f);
-    EXPECT_EQ(repeated.advices, wordsScore(u"GUTEN:40;TAG:60"_s));
-
-    // A A A A B with one A in the phrase: the A that slides into a removed slot is passed over,
-    // so only the first and third go and M = A A B.
-    const Scored runs = scored(
-        saidWords({{"ja", 10}, {"ja", 20}, {"ja", 30}, {"ja", 40}, {"nein", 50}}), u"Ja nein"_s);
-    EXPECT_EQ(runs.advices, wordsScore(u"JA:10;NEIN:30"_s));
-    EXPECT_NEAR(runs.score, 26.7 + 26.7 * 0.733, 1e-3); // 30 - 3.3 for one misplaced of three
-
-    // Each word has its own walk over what the previous walk left: A B A B loses its first A,
-    // then the first B of B A B, leaving A B in order.
-    const Scored alternating =
-        scored(saidWords({{"ja", 10}, {"nein", 20}, {"ja", 30}, {"nein", 40}}), u"Ja nein"_s);
-    EXPECT_EQ(alternating.advices, wordsScore(u"JA:10;NEIN:20"_s));
-    EXPECT_NEAR(alternating.score, 15.0 + 15.0 * 0.85, 1e-4);
-}
-
-TEST(PhraseScore, RepeatedPhraseWordsAreEachScored)
-{
-    const Scored twice = scored(saidWords({{"danke", 80}, {"danke", 60}}), u"Danke, danke!"_s);
-    EXPECT_EQ(twice.advices, wordsScore(u"DANKE:80;DANKE:80"_s));
-    EXPECT_NEAR(twice.score, 70.0 + 70.0 * 0.3, 1e-4);
-}
-
-TEST(PhraseScore, FillersAndPronunciationVariants)
-{
-    const Scored variant = scored({wordResult(u"hello(2)"_s, 1.0)}, u"Hello!"_s);
-    EXPECT_EQ(variant.score, 100.0f);
-    EXPECT_EQ(variant.advices, wordsScore(u"HELLO:100"_s));
-
-    const QVariantMap noVoice{{u"no_voice"_s, u"No voice detected"_s}};
-    for (const QList<QVariantMap> &silence :
-         {QList<QVariantMap>{},
-          QList<QVariantMap>{wordResult(u"<s>"_s, 1.0), wordResult(u"<sil>"_s, 0.9),
-                             wordResult(u"</s>"_s, 1.0)}}) {
-        const Scored silent = scored(silence, u"Hallo"_s);
-        EXPECT_EQ(silent.score, 0.0f);
-        EXPECT_EQ(silent.advices, noVoice);
-    }
-}
-
-TEST(PhraseScore, NothingMatchedScoresZero)
-{
-    const QVariantMap noRightWord{{u"no_right_word"_s, u"No correct words detected"_s}};
-    const QList<std::pair<QList<QVariantMap>, QString>> cases{
-        {saidWords({{"hallo", 90}}), u"Guten Morgen"_s},
-        // The decoder never says these, but a cut before "(" at 0 leaves an empty word.
-        {saidWords({{"(2)", 90}, {"", 90}}), u"Guten Morgen"_s},
-        // Umlauts cut the phrase's word down to its ASCII tail, which the learner never says.
-        {saidWords({{"mueller", 90}, {"müller", 90}}), u"Müller"_s},
-        {saidWords({{"hallo", 90}}), u"Привет!"_s},
-        {saidWords({{"hallo", 90}}), u"?!"_s},
-        {saidWords({{"hallo", 90}}), QString()},
-    };
-    for (const auto &[words, phrase] : cases) {
-        const Scored none = scored(words, phrase);
-        EXPECT_EQ(none.score, 0.0f) << qUtf8Printable(phrase);
-        EXPECT_EQ(none.advices, noRightWord) << qUtf8Printable(phrase);
-    }
-}
-
-TEST(PhraseScore, BrokenPosteriorsStayInRange)
-{
-    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    const QString phrase = u"Guten Tag"_s;
-    EXPECT_EQ(scored({wordResult(u"guten"_s, nan), wordResult(u"tag"_s, 1.0)}, phrase).score, 0.0f);
-    EXPECT_EQ(scored({wordResult(u"guten"_s, -infinity)}, phrase).score, 0.0f);
-    // Past 200 the curve turns below zero, and at infinity it is not a number.
-    EXPECT_EQ(scored({wordResult(u"guten"_s, infinity)}, phrase).score, 0.0f);
-    EXPECT_EQ(scored({wordResult(u"guten"_s, 5.0), wordResult(u"tag"_s, 5.0)}, phrase).score, 0.0f);
-    EXPECT_EQ(scored({wordResult(u"guten"_s, u"viel"_s)}, phrase).advices,
-              wordsScore(u"GUTEN:0;TAG:0"_s));
 }
 
 TEST(PhraseScore, LongWordListsScore)
@@ -200,8 +160,9 @@ TEST(PhraseScore, LongWordListsScore)
     QList<QVariantMap> words;
     for (int i = 0; i < 200'000; ++i)
         words.append(wordResult(i % 2 ? u"tag"_s : u"guten"_s, 1.0));
-    const Scored many = scored(words, u"guten Tag, "_s.repeated(20'000));
-    EXPECT_GE(many.score, 0.0f);
-    EXPECT_LE(many.score, 100.0f);
-    EXPECT_EQ(many.advices.value(u"words_score"_s).toString().count(u';'), 40'000 - 1);
+    QVariantMap advices;
+    const float score = VoPSRecognizer::getScore(words, u"guten Tag, "_s.repeated(20'000), advices);
+    EXPECT_GE(score, 0.0f);
+    EXPECT_LE(score, 100.0f);
+    EXPECT_EQ(advices.value(u"words_score"_s).toString().count(u';'), 40'000 - 1);
 }

@@ -9,31 +9,30 @@ using WordCounts = QList<std::pair<QString, int32_t>>;
 
 TEST(PhraseWords, AsciiRunsFollowedByASeparator)
 {
-    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Wie geht's?"_s, false),
-              (QStringList{u"Wie"_s, u"geht's"_s}));
-    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Wie geht's?"_s, true),
-              (QStringList{u"WIE"_s, u"GEHT'S"_s}));
-    // The last word needs no separator of its own.
-    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"guten Tag"_s, true),
-              (QStringList{u"GUTEN"_s, u"TAG"_s}));
-    // A digit or a hyphen ends a run; only a run that a separator follows is a word.
-    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"um 3Uhr, U-Bahn!"_s, true),
-              (QStringList{u"UM"_s, u"UHR"_s, u"BAHN"_s}));
-}
-
-TEST(PhraseWords, LettersOutsideAsciiCutTheWord)
-{
-    // Only the ASCII tail after the last other letter counts, and only with a separator after it.
-    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Müller "_s, false), QStringList{u"ller"_s});
-    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Straße"_s, true), QStringList{u"E"_s});
-    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Grüß Gott"_s, true), QStringList{u"GOTT"_s});
-}
-
-TEST(PhraseWords, TextsWithoutWords)
-{
-    for (const QString &text : {u""_s, u"?!., "_s, u"Привет, мир!"_s, u"(Hallo)"_s, u"12 34."_s})
-        EXPECT_TRUE(VoPSRecognizer::getAllWordFromText(text, true).isEmpty())
-            << qUtf8Printable(text);
+    const struct {
+        QString text;
+        bool upper;
+        QStringList words;
+    } cases[] = {
+        {u"Wie geht's?"_s, false, {u"Wie"_s, u"geht's"_s}},
+        {u"Wie geht's?"_s, true, {u"WIE"_s, u"GEHT'S"_s}},
+        // The last word needs no separator of its own.
+        {u"guten Tag"_s, true, {u"GUTEN"_s, u"TAG"_s}},
+        // A digit or a hyphen ends a run; only a run that a separator follows is a word.
+        {u"um 3Uhr, U-Bahn!"_s, true, {u"UM"_s, u"UHR"_s, u"BAHN"_s}},
+        // Only the ASCII tail after the last other letter counts.
+        {u"Müller "_s, false, {u"ller"_s}},
+        {u"Straße"_s, true, {u"E"_s}},
+        {u"Grüß Gott"_s, true, {u"GOTT"_s}},
+        {u""_s, true, {}},
+        {u"?!., "_s, true, {}},
+        {u"Привет, мир!"_s, true, {}},
+        {u"(Hallo)"_s, true, {}},
+        {u"12 34."_s, true, {}},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(VoPSRecognizer::getAllWordFromText(c.text, c.upper), c.words)
+            << qUtf8Printable(c.text);
 }
 
 TEST(PhraseWords, CountsInOrderOfFirstUse)

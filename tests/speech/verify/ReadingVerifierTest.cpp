@@ -31,7 +31,7 @@ PhraseAssessment assess(PhraseInfo &voice, const QString &text, const QString &i
 
 } // namespace
 
-TEST(ReadingVerifier, JudgesEveryWordOfItsOwnPhraseAndTellsAnotherPhraseApart)
+TEST(ReadingVerifier, JudgesItsOwnPhraseAlikeEveryTimeAndTellsAnotherPhraseApart)
 {
     PhraseInfo &rolls = coursePhrase(u"4"_s, u"Ich hätte gern vier Brötchen."_s);
     const PhraseAssessment own = assess(rolls, foreignText(rolls), rolls.phon);
@@ -49,7 +49,6 @@ TEST(ReadingVerifier, JudgesEveryWordOfItsOwnPhraseAndTellsAnotherPhraseApart)
         EXPECT_LE(word.startFrame, word.endFrame);
     }
     EXPECT_GE(own.mark, 8);
-    EXPECT_EQ(own.score, assess(rolls, foreignText(rolls), rolls.phon).score);
 
     // The same recording against a phrase of another category.
     PhraseInfo &doctor = coursePhrase(u"8"_s, u"Ich brauche einen Arzt."_s);
@@ -58,41 +57,30 @@ TEST(ReadingVerifier, JudgesEveryWordOfItsOwnPhraseAndTellsAnotherPhraseApart)
     EXPECT_LE(other.mark, 2);
     EXPECT_LT(other.verification.count(WordVerdict::HeardWell), 2);
 
-    // Judged again, the same recording gets the same verdicts.
-    const PhraseAssessment again = assess(rolls, foreignText(rolls), rolls.phon);
-    ASSERT_EQ(again.verification.words.size(), check.words.size());
-    for (qsizetype i = 0; i < check.words.size(); ++i) {
-        EXPECT_EQ(again.verification.words[i].verdict, check.words[i].verdict);
-        EXPECT_EQ(again.verification.words[i].goodness, check.words[i].goodness);
-    }
-    EXPECT_EQ(again.mark, own.mark);
-}
-
-TEST(ReadingVerifier, LongSilenceAroundAReadingMovesItsFramesAndNothingElse)
-{
-    PhraseInfo &rolls = coursePhrase(u"4"_s, u"Ich hätte gern vier Brötchen."_s);
+    // Judged again by a verifier of its own, the reading gets the same verdicts and goodness;
+    // inside five seconds of silence each side, its frames move and its verdicts stay.
     AudioDataInfo audio;
     ASSERT_EQ(VoAudioUtil::decodeAudioDataFromFile(soundPath(rolls), audio), 0);
     const std::vector<int16_t> reading = VoAudioUtil::getAudioDataShortForByte(audio);
     std::vector<int16_t> padded(5 * 16000, 0);
     padded.insert(padded.end(), reading.begin(), reading.end());
     padded.resize(padded.size() + 5 * 16000, 0);
-
     const QTemporaryDir folder;
-    const ReadingTarget target{
-        foreignText(rolls), rolls.phon,
-        generatePhraseModel(foreignText(rolls), folder.path(), TestPaths::acousticModel()),
-        TestPaths::acousticModel()};
+    const PhraseModel model =
+        generatePhraseModel(foreignText(rolls), folder.path(), TestPaths::acousticModel());
     ReadingVerifier verifier(TestPaths::acousticModel());
     const ReadingVerification plain =
-        verifier.verify(target.text, target.ipa, target.model.dictionaryPath, reading);
+        verifier.verify(foreignText(rolls), rolls.phon, model.dictionaryPath, reading);
     const ReadingVerification quiet =
-        verifier.verify(target.text, target.ipa, target.model.dictionaryPath, padded);
+        verifier.verify(foreignText(rolls), rolls.phon, model.dictionaryPath, padded);
     ASSERT_TRUE(quiet.aligned);
-    ASSERT_EQ(quiet.words.size(), plain.words.size());
-    for (qsizetype i = 0; i < plain.words.size(); ++i) {
-        EXPECT_EQ(quiet.words[i].verdict, plain.words[i].verdict) << i;
-        EXPECT_NEAR(quiet.words[i].startFrame, plain.words[i].startFrame + 500, 3) << i;
+    ASSERT_EQ(quiet.words.size(), check.words.size());
+    ASSERT_EQ(plain.words.size(), check.words.size());
+    for (qsizetype i = 0; i < check.words.size(); ++i) {
+        EXPECT_EQ(plain.words[i].verdict, check.words[i].verdict) << i;
+        EXPECT_EQ(plain.words[i].goodness, check.words[i].goodness) << i;
+        EXPECT_EQ(quiet.words[i].verdict, check.words[i].verdict) << i;
+        EXPECT_NEAR(quiet.words[i].startFrame, check.words[i].startFrame + 500, 3) << i;
     }
 }
 

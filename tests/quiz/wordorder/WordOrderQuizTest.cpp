@@ -1,0 +1,166 @@
+#include "quiz/QuizUiTest.h"
+#include "quiz/wordorder/WordOrderAdjustVC.h"
+
+#include <QQuickWindow>
+#include <QTest>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using WordOrderQuizTest = QuizTest;
+
+bool inOrder(const WordOrderBoard &board)
+{
+    return board.testOrderedWords() == board.standardOrderedWords();
+}
+
+class WordOrderQuizUiTest : public QuizCourseUiTest {
+protected:
+    [[nodiscard]] static QRectF sceneRect(const QQuickItem *label)
+    {
+        return label->mapRectToScene(QRectF(0, 0, label->width(), label->height()));
+    }
+
+    // The word labels in reading order: row by row, left to right.
+    [[nodiscard]] QList<QQuickItem *> labels() const
+    {
+        QList<QQuickItem *> found = findItems(app.window()->contentItem(), u"wordLabel"_s);
+        std::sort(found.begin(), found.end(), [](const QQuickItem *a, const QQuickItem *b) {
+            const QRectF left = sceneRect(a);
+            const QRectF right = sceneRect(b);
+            return left.top() != right.top() ? left.top() < right.top()
+                                             : left.left() < right.left();
+        });
+        return found;
+    }
+
+    // Presses the label's centre and moves it in steps until its left edge is at x.
+    void dragTo(const QQuickItem *label, double x) const
+    {
+        const QPoint press = sceneRect(label).center().toPoint();
+        const QPointF offset(x - sceneRect(label).left(), 0);
+        QTest::mousePress(app.window(), Qt::LeftButton, Qt::NoModifier, press);
+        for (int step = 1; step <= 6; ++step)
+            QTest::mouseMove(app.window(), press + (offset * step / 6).toPoint(), 10);
+        QTest::mouseRelease(app.window(), Qt::LeftButton, Qt::NoModifier, press + offset.toPoint(),
+                            10);
+    }
+
+    void key(const QQuickItem *label, Qt::Key key) const
+    {
+        label->parentItem()->forceActiveFocus();
+        QTest::keyClick(app.window(), key);
+    }
+};
+
+} // namespace
+
+// The full stop of "Guten Tag." is no word to place, so it cannot cost the answer.
+TEST_F(WordOrderQuizTest, OnlyTheOrderOfTheWordsCounts)
+{
+    WordOrderAdjustVC quiz(random);
+    quiz.setupQuiz(10, u"Reorder Words"_s, u"1"_s, 60);
+    quiz.viewDidLoad();
+    WordOrderBoard &board = *quiz.wordOrderAdjustView();
+    const auto asked = quiz.phraseInfos();
+    const auto fullStop =
+        std::find_if(asked.cbegin(), asked.cend(),
+                     [](const PhraseInfo *p) { return p->content == u"Guten Tag."_s; }) -
+        asked.cbegin();
+    ASSERT_LT(fullStop, 10) << "the draw must ask the phrase with the full stop";
+    int right = 0;
+    for (int i = 0; i < 10; ++i) {
+        const QStringList words = board.standardOrderedWords();
+        ASSERT_EQ(words.size(), 2) << qPrintable(asked.at(i)->content);
+        const bool putRight = i % 2 == 0 || i == fullStop;
+        if (inOrder(board) != putRight)
+            board.shiftWord(static_cast<int>(board.randomOrderedWords().indexOf(
+                                board.testOrderedWords().constFirst())),
+                            1);
+        ASSERT_EQ(inOrder(board), putRight);
+        quiz.submitAction();
+        right += putRight ? 1 : 0;
+        EXPECT_EQ(foreignText(*quiz.inputPhraseInfos().at(i)),
+                  putRight ? asked.at(i)->content : words.at(1) + u' ' + words.at(0));
+    }
+    EXPECT_EQ(quizTotal(), 10 * right);
+    EXPECT_EQ(board.rowCount(), 0);
+    const QuizResultModel &results = *quiz.results();
+    EXPECT_EQ(results.row(static_cast<int>(fullStop)).testText, u"Guten Tag."_s);
+    EXPECT_EQ(results.row(static_cast<int>(fullStop)).testTextColor, QuizResultModel::rightColor());
+}
+
+TEST_F(WordOrderQuizUiTest, PlaysASessionByMouseAndKeysThenALongPhraseWrapsInTheArea)
+{
+    auto *quiz = pushQuiz<WordOrderAdjustVC>(u"WordOrderAdjustPage.qml"_s, u"categoryId: \"1\""_s);
+    ASSERT_NE(quiz, nullptr);
+    const WordOrderBoard &board = *quiz->wordOrderAdjustView();
+    EXPECT_EQ(text(u"toolBarTitle"_s), u"Reorder Words"_s);
+    EXPECT_EQ(text(u"tipLbl"_s), u"Drag the word to reorder it."_s);
+    (void)app.screenshot(u"word-order-question"_s);
+
+    // Eight put right by dragging the second word before the first, one by the arrow keys, the
+    // last left wrong; submitted by tapping and by Return in turn.
+    for (int i = 0; i < 10; ++i) {
+        ASSERT_EQ(quiz->currIndex(), i);
+        const QList<QQuickItem *> shown = labels();
+        ASSERT_EQ(shown.size(), 2);
+        if (i < 8 && !inOrder(board)) {
+            dragTo(shown.at(1), sceneRect(shown.at(0)).left() - 1);
+        } else if (i == 8) {
+            key(shown.at(0), Qt::Key_Right);
+            if (!inOrder(board))
+                QTest::keyClick(app.window(), Qt::Key_Left);
+        } else if (i == 9 && inOrder(board)) {
+            key(shown.at(0), Qt::Key_Right);
+        }
+        EXPECT_EQ(inOrder(board), i < 9) << qPrintable(board.answerText());
+        if (i % 2 == 0)
+            app.tapCentre(item(u"submitBtn"_s));
+        else
+            QTest::keyClick(app.window(), Qt::Key_Return);
+    }
+
+    ASSERT_TRUE(quiz->finished());
+    expectScoreLabel(90, "#2e8b57");
+    EXPECT_FALSE(item(u"wordOrderAdjustView"_s)->isVisible());
+    expectOneQuizRecorded(90);
+    QQuickItem *table = item(u"resultTable"_s);
+    ASSERT_TRUE(table->isVisible());
+    EXPECT_EQ(table->property("count").toInt(), 10);
+    (void)app.screenshot(u"word-order-results"_s);
+    QTest::keyClick(app.window(), Qt::Key_Escape);
+    ASSERT_TRUE(app.waitForDepth(1));
+
+    leaveHalfWay<WordOrderAdjustVC>(u"WordOrderAdjustPage.qml"_s);
+    expectOneQuizRecorded(90);
+
+    // The work area alone, with a phrase too long for one row, shown last word first.
+    WordOrderBoard longBoard;
+    const QStringList words =
+        u"Entschuldigung können Sie mir bitte sagen wie ich zum Hauptbahnhof komme"_s.split(u' ');
+    longBoard.setWords(words, QStringList(words.crbegin(), words.crend()));
+    const auto view =
+        app.createView(u"WordOrderBoardView.qml"_s, {{u"board"_s, QVariant::fromValue(&longBoard)},
+                                                     {u"y"_s, 100},
+                                                     {u"width"_s, app.window()->width()},
+                                                     {u"height"_s, 200}});
+    ASSERT_NE(view, nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return longBoard.workAreaW() > 0; }));
+    const QList<QQuickItem *> shown = labels();
+    ASSERT_EQ(shown.size(), words.size());
+    QStringList reading;
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        const QRectF box = sceneRect(shown.at(i));
+        EXPECT_GE(box.left(), 0);
+        EXPECT_LE(box.right(), app.window()->width());
+        for (qsizetype j = 0; j < i; ++j)
+            EXPECT_FALSE(box.intersects(sceneRect(shown.at(j)))) << i << " on " << j;
+        reading.append(shown.at(i)->parentItem()->property("word").toString());
+    }
+    EXPECT_EQ(reading, longBoard.testOrderedWords());
+    EXPECT_GT(sceneRect(shown.constLast()).top(), sceneRect(shown.constFirst()).top());
+}

@@ -115,6 +115,25 @@ TEST(RecordWriter, KeepsEveryChangeAndDrainsWhenItGoes)
     EXPECT_EQ(file.intValue(UserInfoKey::readCount), 2 * perThread);
 }
 
+// A write that fails (here: a file where the folder should be, as a full disk fails) keeps the
+// change in memory and lands with the next change once the disk takes it again.
+TEST(RecordWriter, AFailedWriteIsTriedAgainWithTheNextChange)
+{
+    const QTemporaryDir folder;
+    const QString blocked = folder.filePath(u"blocked"_s);
+    ASSERT_TRUE(VoFileUtil::writeFileAtomically(blocked, "a file, not a folder"));
+    const UserInfoFile file(blocked + u"/userInfo.plist"_s);
+    RecordWriter writer(file, initialUserInfo());
+    writer.add({{UserInfoKey::writeCount, 1}});
+    EXPECT_FALSE(writer.flush());
+    EXPECT_EQ(writer.value(UserInfoKey::writeCount), 1);
+
+    ASSERT_TRUE(QFile::remove(blocked) && QDir().mkpath(blocked));
+    writer.add({{UserInfoKey::readCount, 1}});
+    EXPECT_TRUE(writer.flush());
+    EXPECT_EQ(file.intValue(UserInfoKey::writeCount), 1);
+}
+
 // The app opens over a garbage record, shows the main screen, and says once what it did.
 TEST(RecordHealing, TheAppOpensOverAGarbageRecordAndSaysSoOnce)
 {

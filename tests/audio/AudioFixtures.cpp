@@ -28,7 +28,6 @@ std::vector<int32_t> tone(int rate, double seconds, double frequency,
 {
     const auto frames = static_cast<size_t>(seconds * rate);
     std::vector<int32_t> samples;
-    samples.reserve(frames * gains.size());
     for (size_t frame = 0; frame < frames; ++frame) {
         const double wave =
             std::sin(2.0 * std::numbers::pi * frequency * static_cast<double>(frame) / rate);
@@ -41,7 +40,6 @@ std::vector<int32_t> tone(int rate, double seconds, double frequency,
 std::vector<int32_t> fromShorts(const std::vector<int16_t> &samples)
 {
     std::vector<int32_t> wide;
-    wide.reserve(samples.size());
     for (const int16_t sample : samples)
         wide.push_back(static_cast<int32_t>(sample) * 65536);
     return wide;

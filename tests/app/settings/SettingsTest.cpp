@@ -68,26 +68,22 @@ protected:
         return textOf(row(objectName), u"settingDetail"_s);
     }
 
-    static void writeCacheFile(const QString &relativePath, qsizetype bytes)
-    {
-        const QString path = QDir(VoFileUtil::getCachesDirectory()).filePath(relativePath);
-        QDir().mkpath(QFileInfo(path).path());
-        ASSERT_TRUE(VoFileUtil::writeFileAtomically(path, QByteArray(bytes, 'x')));
-    }
-
     UrlRecorder links;
     AppWindow app;
 };
 
 } // namespace
 
-TEST_F(SettingsTest, SpeedLanguageCacheAndLinks)
+TEST_F(SettingsTest, SpeedDurationLanguageCacheAndLinks)
 {
     const QString cache = VoFileUtil::getCachesDirectory();
     VoFileUtil::removeFileInFolder(cache);
-    writeCacheFile(u"a.bin"_s, 1024 * 1024);
-    writeCacheFile(u".hidden"_s, 256 * 1024);
-    writeCacheFile(u"models/12/b.bin"_s, 256 * 1024);
+    for (const auto &[file, kilobytes] :
+         {std::pair{u"a.bin"_s, 1024}, {u".hidden"_s, 256}, {u"models/12/b.bin"_s, 256}}) {
+        QDir().mkpath(QFileInfo(cache + u'/' + file).path());
+        ASSERT_TRUE(VoFileUtil::writeFileAtomically(cache + u'/' + file,
+                                                    QByteArray(kilobytes * 1024, 'x')));
+    }
     openFromMain(u"settingButton"_s);
     EXPECT_EQ(textOf(app.currentPage(), u"toolBarTitle"_s), u"Settings"_s);
     EXPECT_EQ(detail(u"speedRow"_s), u"1.0x"_s);
@@ -111,6 +107,46 @@ TEST_F(SettingsTest, SpeedLanguageCacheAndLinks)
         EXPECT_EQ(QSettings().value(u"playSpeed"_s).toFloat(), speed) << where;
         EXPECT_EQ(detail(u"speedRow"_s), QString::number(speed, 'f', 1) + u'x');
     }
+
+    EXPECT_EQ(detail(u"durationRow"_s), u"60 seconds"_s);
+    QObject *pickerView = app.currentPage()->findChild<QObject *>(u"durationPicker"_s);
+    ASSERT_NE(pickerView, nullptr);
+    QQuickItem *picker = drawnItem(pickerView);
+    QQuickItem *list = findItem(picker, u"durationList"_s);
+    const auto open = [&] {
+        app.tapCentre(row(u"durationRow"_s));
+        ASSERT_TRUE(waitUntilShown(pickerView, true));
+    };
+
+    open();
+    EXPECT_EQ(textOf(picker, u"durationTitle"_s), u"Test Duration"_s);
+    // 10 to 300 seconds in steps of 5; the current 60 is selected.
+    EXPECT_EQ(list->property("count").toInt(), 59);
+    EXPECT_EQ(list->property("currentIndex").toInt(), 10);
+    (void)app.screenshot(u"duration_picker"_s);
+
+    // Cancel keeps 60 even with another row selected, here with the keyboard.
+    QTest::keyClick(app.window(), Qt::Key_Down);
+    EXPECT_EQ(list->property("currentIndex").toInt(), 11);
+    app.tapCentre(findItem(picker, u"durationCancel"_s));
+    ASSERT_TRUE(waitUntilShown(pickerView, false));
+    EXPECT_FALSE(QSettings().contains(Preferences::testDurationKey));
+
+    open();
+    EXPECT_EQ(list->property("currentIndex").toInt(), 10) << "the stored duration, not the last";
+    app.tapCentre(AppWindow::listRow(list, 58));
+    app.tapCentre(findItem(picker, u"durationOk"_s));
+    ASSERT_TRUE(waitUntilShown(pickerView, false));
+    EXPECT_EQ(QSettings().value(u"TestDuration"_s).toFloat(), 300.0F);
+    EXPECT_EQ(detail(u"durationRow"_s), u"300 seconds"_s);
+
+    // A duration no row shows (from an older version, say) selects none and stays on OK.
+    QSettings().setValue(Preferences::testDurationKey, 62);
+    open();
+    EXPECT_EQ(list->property("currentIndex").toInt(), -1);
+    QTest::keyClick(app.window(), Qt::Key_Return);
+    ASSERT_TRUE(waitUntilShown(pickerView, false));
+    EXPECT_EQ(Preferences::instance().testDuration(), 62.0F);
 
     QQuickItem *box = findItem(row(u"languageRow"_s), u"languageBox"_s);
     EXPECT_EQ(box->property("displayText").toString(), u"English"_s);
@@ -144,52 +180,7 @@ TEST_F(SettingsTest, SpeedLanguageCacheAndLinks)
     EXPECT_EQ(textOf(first, u"categoryName"_s), u"Dire bonjour et au revoir"_s);
 }
 
-TEST_F(SettingsTest, DurationPickerStoresTheChosenRow)
-{
-    openFromMain(u"settingButton"_s);
-    QQuickItem *durationRow = row(u"durationRow"_s);
-    EXPECT_EQ(detail(u"durationRow"_s), u"60 seconds"_s);
-    QObject *pickerView = app.currentPage()->findChild<QObject *>(u"durationPicker"_s);
-    ASSERT_NE(pickerView, nullptr);
-    QQuickItem *picker = drawnItem(pickerView);
-    QQuickItem *list = findItem(picker, u"durationList"_s);
-    const auto open = [&] {
-        app.tapCentre(durationRow);
-        ASSERT_TRUE(waitUntilShown(pickerView, true));
-    };
-
-    open();
-    EXPECT_EQ(textOf(picker, u"durationTitle"_s), u"Test Duration"_s);
-    // 10 to 300 seconds in steps of 5; the current 60 is selected.
-    EXPECT_EQ(list->property("count").toInt(), 59);
-    EXPECT_EQ(list->property("currentIndex").toInt(), 10);
-    (void)app.screenshot(u"duration_picker"_s);
-
-    // Cancel keeps 60 even with another row selected, here with the keyboard.
-    QTest::keyClick(app.window(), Qt::Key_Down);
-    EXPECT_EQ(list->property("currentIndex").toInt(), 11);
-    app.tapCentre(findItem(picker, u"durationCancel"_s));
-    ASSERT_TRUE(waitUntilShown(pickerView, false));
-    EXPECT_FALSE(QSettings().contains(Preferences::testDurationKey));
-
-    open();
-    EXPECT_EQ(list->property("currentIndex").toInt(), 10) << "the stored duration, not the last";
-    app.tapCentre(AppWindow::listRow(list, 58));
-    app.tapCentre(findItem(picker, u"durationOk"_s));
-    ASSERT_TRUE(waitUntilShown(pickerView, false));
-    EXPECT_EQ(QSettings().value(u"TestDuration"_s).toFloat(), 300.0F);
-    EXPECT_EQ(detail(u"durationRow"_s), u"300 seconds"_s);
-
-    // A duration no row shows (from an older version, say) selects none and stays on OK.
-    QSettings().setValue(Preferences::testDurationKey, 62);
-    open();
-    EXPECT_EQ(list->property("currentIndex").toInt(), -1);
-    QTest::keyClick(app.window(), Qt::Key_Return);
-    ASSERT_TRUE(waitUntilShown(pickerView, false));
-    EXPECT_EQ(Preferences::instance().testDuration(), 62.0F);
-}
-
-TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarned)
+TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarnedAndThePromptWaitsForThreeUses)
 {
     QVariantMap record = initialUserInfo();
     for (const auto &[key, value] : {std::pair{UserInfoKey::startCount, 3},
@@ -220,11 +211,8 @@ TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarned)
     // 30 + 205 + 35 + 10 + 40 + 265 + 1000, and the word score of 9 that has no row.
     EXPECT_EQ(textOf(app.currentPage(), u"userInfoTotal"_s), u"1594"_s);
     (void)app.screenshot(u"user_info"_s);
-}
 
-TEST_F(SettingsTest, RatingPromptAsksOnComingBackAfterThreeUses)
-{
-    openFromMain(u"userInfoButton"_s);
+    // The rating prompt asks on coming back to the main screen after three uses.
     back();
     QObject *dialog = app.window()->findChild<QObject *>(u"ratingPrompt"_s);
     ASSERT_NE(dialog, nullptr);

@@ -3,10 +3,8 @@
 #include <QFile>
 #include <algorithm>
 #include <cmath>
-#include <gtest/gtest.h>
 #include <numbers>
 #include <sndfile.h>
-#include <tuple>
 
 namespace AudioFixtures {
 
@@ -30,7 +28,6 @@ std::vector<int32_t> tone(int rate, double seconds, double frequency,
 {
     const auto frames = static_cast<size_t>(seconds * rate);
     std::vector<int32_t> samples;
-    samples.reserve(frames * gains.size());
     for (size_t frame = 0; frame < frames; ++frame) {
         const double wave =
             std::sin(2.0 * std::numbers::pi * frequency * static_cast<double>(frame) / rate);
@@ -43,7 +40,6 @@ std::vector<int32_t> tone(int rate, double seconds, double frequency,
 std::vector<int32_t> fromShorts(const std::vector<int16_t> &samples)
 {
     std::vector<int32_t> wide;
-    wide.reserve(samples.size());
     for (const int16_t sample : samples)
         wide.push_back(static_cast<int32_t>(sample) * 65536);
     return wide;
@@ -75,31 +71,6 @@ int peak(const std::vector<int16_t> &samples)
     for (const int16_t sample : samples)
         largest = std::max(largest, std::abs(static_cast<int>(sample)));
     return largest;
-}
-
-AudioDataInfo untouchedRecord()
-{
-    AudioDataInfo record;
-    record.size = 3;
-    record.data = QByteArrayLiteral("old");
-    record.channels = 7;
-    record.block_align = 11;
-    record.bits_per_sample = 13;
-    record.sample_rate = 17;
-    record.format_length = 19;
-    record.format_tag = 23;
-    record.avg_bytes_sec = 29;
-    return record;
-}
-
-void expectUntouched(const AudioDataInfo &record)
-{
-    const auto fields = [](const AudioDataInfo &r) {
-        return std::tuple(r.size, r.data.toStdString(), r.channels, r.block_align,
-                          r.bits_per_sample, r.sample_rate, r.format_length, r.format_tag,
-                          r.avg_bytes_sec);
-    };
-    EXPECT_EQ(fields(record), fields(untouchedRecord()));
 }
 
 namespace {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "audio/AudioDataInfo.h"
-
 #include <QString>
 #include <QStringList>
 #include <cstdint>
@@ -25,10 +23,6 @@ QByteArray readBytes(const QString &path);
 /// The frequency of a tone at `rate`, from its upward zero crossings.
 double measuredFrequency(const std::vector<int16_t> &samples, int rate);
 int peak(const std::vector<int16_t> &samples);
-
-/// A record no decoder would fill, to see that a failure leaves a record as it was.
-AudioDataInfo untouchedRecord();
-void expectUntouched(const AudioDataInfo &record);
 
 /// Collects the tolvane.* log lines written while it lives.
 class LogCapture {

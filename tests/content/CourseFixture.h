@@ -29,20 +29,16 @@ public:
         file.write(contents);
     }
 
-    void writePhrases(const QString &folder, const QByteArray &json,
-                      const QString &key = VoCryptor::contentKey) const
-    {
-        writeFile(folder + u"/phrasesInfo"_s,
-                  VoCryptor::encryptWithDES(QString::fromUtf8(json), key).toUtf8());
-    }
-
     void addCategory(int id, const QString &name, const QJsonObject &nameTrans,
                      const QJsonArray &phrases) const
     {
         const QString folder = QString::number(id);
         const QJsonObject info{{u"id"_s, id}, {u"name"_s, name}, {u"nameTrans"_s, nameTrans}};
         writeFile(folder + u"/pkgInfo"_s, QJsonDocument(info).toJson());
-        writePhrases(folder, QJsonDocument(phrases).toJson());
+        writeFile(folder + u"/phrasesInfo"_s,
+                  VoCryptor::encryptWithDES(QString::fromUtf8(QJsonDocument(phrases).toJson()),
+                                            VoCryptor::contentKey)
+                      .toUtf8());
     }
 
     /// Three categories whose ids sort differently as text and as numbers: 10 (phrases 12 and
@@ -65,20 +61,6 @@ public:
                                  {u"wTrans"_s, QJsonObject{{u"en"_s, u"A coffee, please."_s},
                                                            {u"de"_s, u"Einen Kaffee bitte!"_s}}}}});
         addCategory(9, u"Zahlen"_s, {}, {});
-    }
-
-    /// The sample course as the app's content. The app's store is created on first use and kept
-    /// for the process, so every test of a program shares this one course.
-    static const CourseFixture &appCourse()
-    {
-        static const CourseFixture course;
-        static const bool installed = [] {
-            course.addSampleCategories();
-            setResourceRoot(course.root());
-            return true;
-        }();
-        (void)installed;
-        return course;
     }
 
 private:

@@ -17,7 +17,7 @@ QString encipher(const QString &text, const QString &key = VoCryptor::contentKey
 // Expected values from an independent DES-CBC (openssl enc -des-cbc) with our keys and vector,
 // so the shipped files stay readable whatever library does the cipher. 16 bytes gain a whole
 // block of padding: 24 bytes, 32 Base64 characters.
-TEST(VoCryptor, MatchesAnIndependentDesCbcAndRoundTrips)
+TEST(VoCryptor, MatchesAnIndependentDesCbcRoundTripsAndCutsTheKey)
 {
     EXPECT_EQ(encipher(sixteen), u"3xMd8QoJantXlzUq1rAG/D77wygtXAvn"_s);
     EXPECT_EQ(encipher(u"Grüße"_s, VoCryptor::recordKey), u"P6yu9MWruPI="_s);
@@ -33,12 +33,9 @@ TEST(VoCryptor, MatchesAnIndependentDesCbcAndRoundTrips)
     ASSERT_TRUE(cipher);
     EXPECT_EQ(cipher->size(), 264);
     EXPECT_EQ(VoCryptor::decryptData(*cipher, VoCryptor::recordKey), everyByte);
-}
 
-TEST(VoCryptor, KeyIsItsFirstEightUtf8Bytes)
-{
+    // A typed key counts with its first eight UTF-8 bytes.
     EXPECT_EQ(encipher(sixteen, VoCryptor::contentKey + u"-and-more"_s), encipher(sixteen));
-    // "ä" takes two bytes, so both keys cut to the same eight bytes.
     EXPECT_EQ(encipher(sixteen, u"äbcdefgh"_s), encipher(sixteen, u"äbcdefgX"_s));
     EXPECT_NE(encipher(sixteen, u"abcdefgh"_s), encipher(sixteen, u"abcdefgX"_s));
 }

@@ -1,24 +1,14 @@
 #pragma once
 
+#include "content/QtPrinters.h"
 #include "support/TestPaths.h"
 
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <ostream>
 
 using namespace Qt::StringLiterals;
-
-// Readable failure messages for the texts these tests compare.
-inline void PrintTo(const QString &text, std::ostream *os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
-inline void PrintTo(const QStringList &texts, std::ostream *os)
-{
-    *os << '[' << texts.join(u"\", \""_s).prepend(u'"').append(u'"').toStdString() << ']';
-}
 
 /// @brief What one run of tolvane-cli printed and how it ended.
 struct CliRun {

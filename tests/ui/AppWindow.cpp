@@ -137,3 +137,9 @@ QQuickItem *findItem(QQuickItem *root, const QString &objectName)
     const QList<QQuickItem *> found = findItems(root, objectName);
     return found.isEmpty() ? nullptr : found.constFirst();
 }
+
+QString textOf(QQuickItem *root, const QString &objectName)
+{
+    QQuickItem *item = root ? findItem(root, objectName) : nullptr;
+    return item ? item->property("text").toString() : u"<no %1>"_s.arg(objectName);
+}

@@ -59,3 +59,5 @@ private:
 [[nodiscard]] QQuickItem *findItem(QQuickItem *root, const QString &objectName);
 /// Every item below root with the object name.
 [[nodiscard]] QList<QQuickItem *> findItems(QQuickItem *root, const QString &objectName);
+/// The text of the first item below root with the object name, or "<no NAME>".
+[[nodiscard]] QString textOf(QQuickItem *root, const QString &objectName);

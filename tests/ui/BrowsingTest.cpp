@@ -15,12 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString textOf(QQuickItem *root, const QString &objectName)
-{
-    QQuickItem *item = findItem(root, objectName);
-    return item ? item->property("text").toString() : u"<no %1>"_s.arg(objectName);
-}
-
 QString toolBarTitle(const AppWindow &app)
 {
     return textOf(app.currentPage(), u"toolBarTitle"_s);
@@ -107,39 +101,9 @@ TEST_F(BrowsingTest, MainScreenListsEveryCategoryAndOpensOneInTheLearnersLanguag
     setUserInfoInt(UserInfoKey::listenCount, 0);
 }
 
-// The screen must grow out of the finger, not out of a corner or the middle: while it scales,
-// the tapped point of the screen stays where it was tapped, on the way in and on the way out.
-TEST_F(BrowsingTest, ZoomKeepsTheTappedPointInPlace)
-{
-    QQuickItem *row = categoryRow(2);
-    ASSERT_NE(row, nullptr);
-    const QPointF tapped = row->mapToScene(QPointF(row->width() * 0.8, row->height() / 2));
-    QTest::mouseClick(app.window(), Qt::LeftButton, Qt::NoModifier, tapped.toPoint());
-
-    const auto expectFixedWhileScaling = [&](bool growing) {
-        QQuickItem *moving = app.stack()->childItems().constLast();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return moving->scale() > 0.2 && moving->scale() < 0.8; }))
-            << (growing ? "push" : "pop");
-        const QPointF now = moving->mapToScene(app.stack()->mapFromScene(tapped));
-        EXPECT_NEAR(now.x(), tapped.x(), 1.5);
-        EXPECT_NEAR(now.y(), tapped.y(), 1.5);
-        EXPECT_GT(moving->opacity(), 0);
-        EXPECT_LT(moving->opacity(), 1);
-    };
-    expectFixedWhileScaling(true);
-    ASSERT_TRUE(app.waitForDepth(2));
-    EXPECT_DOUBLE_EQ(app.currentPage()->scale(), 1);
-    EXPECT_EQ(app.currentPage()->position(), QPointF(0, 0));
-
-    // A mouse in the middle of the window would not be the point to shrink into.
-    app.tapCentre(findItem(app.currentPage(), u"backButton"_s));
-    expectFixedWhileScaling(false);
-    ASSERT_TRUE(app.waitForDepth(1));
-}
-
 // A held key repeats and an impatient finger taps again while the screen is still growing; the
 // learner still gets one screen to go back from, not two.
-TEST_F(BrowsingTest, KeysOpenOneCategoryAtATimeAndGoBack)
+TEST_F(BrowsingTest, KeysAndTapsOpenOneCategoryAtATimeZoomingAtTheTappedPoint)
 {
     QTest::keyClick(app.window(), Qt::Key_Return);
     QTest::keyClick(app.window(), Qt::Key_Return);
@@ -166,4 +130,56 @@ TEST_F(BrowsingTest, KeysOpenOneCategoryAtATimeAndGoBack)
     ASSERT_TRUE(app.waitForDepth(1));
     QTest::keyClick(app.window(), Qt::Key_Escape);
     EXPECT_EQ(app.depth(), 1) << "the main screen stays";
+
+    // The screen grows out of the finger and shrinks back into it, not into a corner or the
+    // middle (where the back button's tap would put it).
+    QQuickItem *row = categoryRow(2);
+    ASSERT_NE(row, nullptr);
+    const QPointF tapped = row->mapToScene(QPointF(row->width() * 0.8, row->height() / 2));
+    QTest::mouseClick(app.window(), Qt::LeftButton, Qt::NoModifier, tapped.toPoint());
+    const auto expectFixedWhileScaling = [&](bool growing) {
+        QQuickItem *moving = app.stack()->childItems().constLast();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return moving->scale() > 0.2 && moving->scale() < 0.8; }))
+            << (growing ? "push" : "pop");
+        const QPointF now = moving->mapToScene(app.stack()->mapFromScene(tapped));
+        EXPECT_NEAR(now.x(), tapped.x(), 1.5);
+        EXPECT_NEAR(now.y(), tapped.y(), 1.5);
+        EXPECT_GT(moving->opacity(), 0);
+        EXPECT_LT(moving->opacity(), 1);
+    };
+    expectFixedWhileScaling(true);
+    ASSERT_TRUE(app.waitForDepth(2));
+    EXPECT_DOUBLE_EQ(app.currentPage()->scale(), 1);
+    EXPECT_EQ(app.currentPage()->position(), QPointF(0, 0));
+    app.tapCentre(findItem(app.currentPage(), u"backButton"_s));
+    expectFixedWhileScaling(false);
+    ASSERT_TRUE(app.waitForDepth(1));
+}
+
+// Screens count on a label's text sitting in the middle of its box and wrapping when long.
+TEST_F(BrowsingTest, LabelTextSitsInTheMiddleAndWraps)
+{
+    app.stack()->setVisible(false); // a plain background, so the only ink is the label's
+    const auto view = app.createView(
+        u"VoLabel.qml"_s,
+        {{u"width"_s, 300}, {u"height"_s, 120}, {u"color"_s, u"black"_s}, {u"text"_s, u"Hallo"_s}});
+    auto *label = qobject_cast<QQuickItem *>(view.get());
+    ASSERT_NE(label, nullptr);
+    const QImage image = app.window()->grabWindow();
+    const QPoint origin = label->mapToScene(QPointF(0, 0)).toPoint();
+    int top = -1;
+    int bottom = -1;
+    for (int y = 0; y < label->height(); ++y)
+        for (int x = 0; x < label->width(); ++x)
+            if (qGray(image.pixel(origin + QPoint(x, y))) < 128) {
+                top = top < 0 ? y : top;
+                bottom = y;
+                break;
+            }
+    ASSERT_GE(top, 0) << "no text drawn";
+    EXPECT_NEAR(top + bottom, label->height(), 8);
+
+    label->setProperty("text", u"Ein Kaffee und ein Stück Kuchen, bitte, und dann die Rechnung"_s);
+    EXPECT_GT(label->property("lineCount").toInt(), 1);
+    EXPECT_LE(label->property("contentWidth").toDouble(), label->width());
 }

@@ -70,6 +70,15 @@ protected:
         return shown.trimmed();
     }
 
+    // The pop-up's dimmed layer is drawn by the window's overlay, not inside the pop-up.
+    [[nodiscard]] bool maskShown() const
+    {
+        const QList<QQuickItem *> masks = findItems(app.window()->contentItem(), u"popUpMask"_s);
+        return std::any_of(masks.begin(), masks.end(), [](const QQuickItem *mask) {
+            return mask->isVisible() && mask->opacity() > 0;
+        });
+    }
+
     static PhraseInfo &phrase(int index) { return *loadPhrases(u"1"_s)->at(index); }
     static qint64 count(const QString &key) { return userInfoInt(key); }
 };
@@ -154,6 +163,7 @@ TEST_F(PhraseCardTest, WritingPopUpColoursRightAndWrongAnswers)
         EXPECT_TRUE(item(u"writeInput"_s)->isEnabled());
         EXPECT_TRUE(text(u"writeInput"_s).isEmpty());
         EXPECT_FALSE(item(u"wordLabel"_s)->isVisible()) << "the phrase stays hidden until checked";
+        EXPECT_TRUE(maskShown());
     };
     const auto type = [&](const char *typed) {
         for (const char *c = typed; *c; ++c)
@@ -186,10 +196,17 @@ TEST_F(PhraseCardTest, WritingPopUpColoursRightAndWrongAnswers)
     EXPECT_EQ(text(u"writeInput"_s), u"Gute Nacht"_s);
     EXPECT_EQ(count(UserInfoKey::writeCount), writes + 1);
 
+    // Closing takes the dimmed mask away too, so nothing is left to swallow the screen's taps.
     QTest::keyClick(app.window(), Qt::Key_Escape);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !popUp->property("visible").toBool(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !maskShown(); }));
     EXPECT_EQ(app.depth(), 2) << "Escape closes the pop-up, not the screen";
     openPopUp();
+    app.tapCentre(item(u"closeButton"_s));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !popUp->property("visible").toBool(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !maskShown(); }));
+    app.tapCentre(item(u"lastItemButton"_s));
+    EXPECT_EQ(text(u"phraseText"_s), phrase(12).content);
 }
 
 // Only letter case is forgiven; lower-casing, not case folding, so ß stays apart from ss.

@@ -3,7 +3,6 @@
 #include "app/AppConfig.h"
 #include "app/Preferences.h"
 #include "app/RatingPrompt.h"
-#include "app/UserInfoVC.h"
 #include "app/UserRecord.h"
 #include "content/AppCommon.h"
 #include "content/QtPrinters.h"
@@ -21,12 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString textOf(QQuickItem *root, const QString &objectName)
-{
-    QQuickItem *item = root ? findItem(root, objectName) : nullptr;
-    return item ? item->property("text").toString() : u"<no %1>"_s.arg(objectName);
-}
 
 // Pop-ups are not items: they are found in the object tree of what declared them, and their
 // contents under the item they draw in the window's overlay.
@@ -75,26 +68,22 @@ protected:
         return textOf(row(objectName), u"settingDetail"_s);
     }
 
-    static void writeCacheFile(const QString &relativePath, qsizetype bytes)
-    {
-        const QString path = QDir(VoFileUtil::getCachesDirectory()).filePath(relativePath);
-        QDir().mkpath(QFileInfo(path).path());
-        ASSERT_TRUE(VoFileUtil::writeFileAtomically(path, QByteArray(bytes, 'x')));
-    }
-
     UrlRecorder links;
     AppWindow app;
 };
 
 } // namespace
 
-TEST_F(SettingsTest, SpeedLanguageCacheAndLinks)
+TEST_F(SettingsTest, SpeedDurationLanguageCacheAndLinks)
 {
     const QString cache = VoFileUtil::getCachesDirectory();
     VoFileUtil::removeFileInFolder(cache);
-    writeCacheFile(u"a.bin"_s, 1024 * 1024);
-    writeCacheFile(u".hidden"_s, 256 * 1024);
-    writeCacheFile(u"models/12/b.bin"_s, 256 * 1024);
+    for (const auto &[file, kilobytes] :
+         {std::pair{u"a.bin"_s, 1024}, {u".hidden"_s, 256}, {u"models/12/b.bin"_s, 256}}) {
+        QDir().mkpath(QFileInfo(cache + u'/' + file).path());
+        ASSERT_TRUE(VoFileUtil::writeFileAtomically(cache + u'/' + file,
+                                                    QByteArray(kilobytes * 1024, 'x')));
+    }
     openFromMain(u"settingButton"_s);
     EXPECT_EQ(textOf(app.currentPage(), u"toolBarTitle"_s), u"Settings"_s);
     EXPECT_EQ(detail(u"speedRow"_s), u"1.0x"_s);
@@ -119,52 +108,13 @@ TEST_F(SettingsTest, SpeedLanguageCacheAndLinks)
         EXPECT_EQ(detail(u"speedRow"_s), QString::number(speed, 'f', 1) + u'x');
     }
 
-    QQuickItem *box = findItem(row(u"languageRow"_s), u"languageBox"_s);
-    EXPECT_EQ(box->property("displayText").toString(), u"English"_s);
-    const QStringList codes = supportedLanguageCodes();
-    const std::pair<QString, QString> names[] = {
-        {u"zh-Hant"_s, u"繁體中文"_s}, {u"ms"_s, u"Bahasa Melayu"_s}, {u"fr"_s, u"Français"_s}};
-    for (const auto &[code, name] : names) {
-        QMetaObject::invokeMethod(box, "activated", Q_ARG(int, int(codes.indexOf(code))));
-        EXPECT_EQ(box->property("displayText").toString(), name);
-        EXPECT_EQ(QSettings().value(u"LanguageType"_s).toString(), code);
-    }
-    const QStringList shown = box->property("model").toStringList();
-    for (qsizetype i = 0; i < shown.size(); ++i)
-        EXPECT_NE(shown.value(i), codes.value(i)) << "every language is named in itself";
-
-    app.tapCentre(row(u"feedbackRow"_s));
-    ASSERT_EQ(links.urls.size(), 1);
-    const QUrl mail = links.urls.constFirst();
-    EXPECT_EQ(mail.toString(QUrl::RemoveQuery), u"mailto:feedback@tolvane.app"_s);
-    EXPECT_TRUE(QUrlQuery(mail).queryItemValue(u"subject"_s).contains(AppConfig::appVersion()));
-
-    // Reviewing earns its points once, however often the page is opened.
-    const qint64 before = totalExperience();
-    app.tapCentre(row(u"reviewRow"_s));
-    app.tapCentre(row(u"reviewRow"_s));
-    EXPECT_EQ(totalExperience(), before + 1000);
-    ASSERT_EQ(links.urls.size(), 3);
-    EXPECT_EQ(links.urls.at(1).toString(),
-              u"https://apps.apple.com/app/id1458237904?mt=8&action=write-review"_s);
-
-    // The main screen follows the chosen language.
-    back();
-    QQuickItem *first = AppWindow::listRow(findItem(app.currentPage(), u"categoryList"_s), 0);
-    EXPECT_EQ(textOf(first, u"categoryName"_s), u"Dire bonjour et au revoir"_s);
-}
-
-TEST_F(SettingsTest, DurationPickerStoresTheChosenRow)
-{
-    openFromMain(u"settingButton"_s);
-    QQuickItem *durationRow = row(u"durationRow"_s);
     EXPECT_EQ(detail(u"durationRow"_s), u"60 seconds"_s);
     QObject *pickerView = app.currentPage()->findChild<QObject *>(u"durationPicker"_s);
     ASSERT_NE(pickerView, nullptr);
     QQuickItem *picker = drawnItem(pickerView);
     QQuickItem *list = findItem(picker, u"durationList"_s);
     const auto open = [&] {
-        app.tapCentre(durationRow);
+        app.tapCentre(row(u"durationRow"_s));
         ASSERT_TRUE(waitUntilShown(pickerView, true));
     };
 
@@ -197,9 +147,40 @@ TEST_F(SettingsTest, DurationPickerStoresTheChosenRow)
     QTest::keyClick(app.window(), Qt::Key_Return);
     ASSERT_TRUE(waitUntilShown(pickerView, false));
     EXPECT_EQ(Preferences::instance().testDuration(), 62.0F);
+
+    QQuickItem *box = findItem(row(u"languageRow"_s), u"languageBox"_s);
+    EXPECT_EQ(box->property("displayText").toString(), u"English"_s);
+    const QStringList codes = supportedLanguageCodes();
+    const std::pair<QString, QString> names[] = {
+        {u"zh-Hant"_s, u"繁體中文"_s}, {u"ms"_s, u"Bahasa Melayu"_s}, {u"fr"_s, u"Français"_s}};
+    for (const auto &[code, name] : names) {
+        QMetaObject::invokeMethod(box, "activated", Q_ARG(int, int(codes.indexOf(code))));
+        EXPECT_EQ(box->property("displayText").toString(), name);
+        EXPECT_EQ(QSettings().value(u"LanguageType"_s).toString(), code);
+    }
+
+    app.tapCentre(row(u"feedbackRow"_s));
+    ASSERT_EQ(links.urls.size(), 1);
+    const QUrl mail = links.urls.constFirst();
+    EXPECT_EQ(mail.toString(QUrl::RemoveQuery), u"mailto:feedback@tolvane.app"_s);
+    EXPECT_TRUE(QUrlQuery(mail).queryItemValue(u"subject"_s).contains(AppConfig::appVersion()));
+
+    // Reviewing earns its points once, however often the page is opened.
+    const qint64 before = totalExperience();
+    app.tapCentre(row(u"reviewRow"_s));
+    app.tapCentre(row(u"reviewRow"_s));
+    EXPECT_EQ(totalExperience(), before + 1000);
+    ASSERT_EQ(links.urls.size(), 3);
+    EXPECT_EQ(links.urls.at(1).toString(),
+              u"https://apps.apple.com/app/id1458237904?mt=8&action=write-review"_s);
+
+    // The main screen follows the chosen language.
+    back();
+    QQuickItem *first = AppWindow::listRow(findItem(app.currentPage(), u"categoryList"_s), 0);
+    EXPECT_EQ(textOf(first, u"categoryName"_s), u"Dire bonjour et au revoir"_s);
 }
 
-TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarned)
+TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarnedAndThePromptWaitsForThreeUses)
 {
     QVariantMap record = initialUserInfo();
     for (const auto &[key, value] : {std::pair{UserInfoKey::startCount, 3},
@@ -230,11 +211,8 @@ TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarned)
     // 30 + 205 + 35 + 10 + 40 + 265 + 1000, and the word score of 9 that has no row.
     EXPECT_EQ(textOf(app.currentPage(), u"userInfoTotal"_s), u"1594"_s);
     (void)app.screenshot(u"user_info"_s);
-}
 
-TEST_F(SettingsTest, RatingPromptAsksOnComingBackAfterThreeUses)
-{
-    openFromMain(u"userInfoButton"_s);
+    // The rating prompt asks on coming back to the main screen after three uses.
     back();
     QObject *dialog = app.window()->findChild<QObject *>(u"ratingPrompt"_s);
     ASSERT_NE(dialog, nullptr);
@@ -286,16 +264,4 @@ TEST(RatingPrompt, AsksOncePerVersionAndLaterWaitsAsLongAgain)
     QSettings().setValue(u"RatingPrompt/uses"_s, -7);
     prompt.logUse();
     EXPECT_EQ(prompt.usesCount(), 1);
-}
-
-TEST(UserInfoDeathTest, ARecordWithoutAKeyIsFatal)
-{
-    QVariantMap record = initialUserInfo();
-    record.remove(UserInfoKey::reviewed);
-    EXPECT_DEATH(
-        {
-            (void)writeUserInfo(record);
-            const UserInfoVC screen;
-        },
-        "kReviewed");
 }

@@ -20,9 +20,6 @@ public:
         for (const char *scheme : schemes)
             QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
     }
-    UrlRecorder(const UrlRecorder &) = delete;
-    UrlRecorder &operator=(const UrlRecorder &) = delete;
-
     QList<QUrl> urls;
 
 public Q_SLOTS:

@@ -47,39 +47,36 @@ std::vector<int16_t> middleOf(const RenderedAudio &audio, int channel)
     return samples;
 }
 
-// The tempo follows the rate, bounded to 0.2 .. 2.0, and the pitch stays; stereo stays apart and
-// extra plays follow the first.
+// The tempo follows the rate and the pitch stays; stereo stays apart and extra plays follow the
+// first.
 TEST(Stretch, ToneLastsItsPlaysOverTheRateAtTheSamePitch)
 {
     const QTemporaryDir folder;
-    const QString mono = toneFile(folder, 1.0);
-    const QString stereo = toneFile(folder, 1.0, 2);
     const struct {
         float rate;
         int extraPlays;
-        const QString &file;
+        int channels;
         double seconds;
-    } cases[] = {{0.5F, 0, mono, 2.0},  {1.4F, 0, mono, 1.0 / 1.4}, {5.0F, 0, mono, 0.5},
-                 {0.01F, 0, mono, 5.0}, {1.0F, 2, mono, 3.0},       {0.6F, 0, stereo, 1.0 / 0.6}};
+    } cases[] = {{1.4F, 1, 1, 2.0 / 1.4}, {0.6F, 0, 2, 1.0 / 0.6}};
     for (const auto &c : cases) {
         SCOPED_TRACE(c.rate);
-        const auto audio = renderAudio(c.file, c.rate, c.extraPlays);
+        const auto audio = renderAudio(toneFile(folder, 1.0, c.channels), c.rate, c.extraPlays);
         ASSERT_TRUE(audio);
-        EXPECT_EQ(audio->sampleRate, toneRate);
         EXPECT_NEAR(audio->seconds(), c.seconds, 0.03 * c.seconds);
         const std::vector<int16_t> left = middleOf(*audio, 0);
         EXPECT_NEAR(AudioFixtures::measuredFrequency(left, audio->sampleRate), 440.0, 8.8);
         EXPECT_GT(AudioFixtures::peak(left), 0.4 * 32767);
-        if (audio->channels == 2) {
-            EXPECT_LT(AudioFixtures::peak(middleOf(*audio, 1)), 33);
-        }
+        // The silent right channel stays silent.
+        EXPECT_LT(audio->channels == 2 ? AudioFixtures::peak(middleOf(*audio, 1)) : 0, 33);
     }
 }
 
-TEST(Stretch, SeekCountsOverAllPlaysAndALaterOneGoesBack)
+// The device's side: a seek counts over all plays, and an output that never sounded still shuts its
+// audio thread down and frees what lives there, with calls still posted to it.
+TEST(DevicePlayer, SeekCountsOverAllPlaysAndTheOutputThreadShutsDownCleanly)
 {
     const QTemporaryDir folder;
-    const auto stream = StretchedStream::open(toneFile(folder, 1.0));
+    auto stream = StretchedStream::open(toneFile(folder, 1.0));
     ASSERT_TRUE(stream);
     stream->setExtraPlays(1);
     const auto secondsLeft = [&] {
@@ -94,19 +91,25 @@ TEST(Stretch, SeekCountsOverAllPlaysAndALaterOneGoesBack)
     stream->seek(0.25);
     EXPECT_NEAR(secondsLeft(), 1.75, 0.03);
     EXPECT_FALSE(stream->failed());
+
+    QAudioFormat format;
+    format.setSampleFormat(QAudioFormat::Float);
+    auto output = std::make_unique<SinkSoundOutput>(std::move(stream), QAudioDevice(), format);
+    output->setRate(0.5F);
+    output->setExtraPlays(1);
+    output->seek(0.1);
+    output->setVolume(0.5F);
+    output.reset();
 }
 
 // A clock of a three-second file whose time the test moves.
-class PlaybackClockTest : public ::testing::Test {
-protected:
+TEST(PlaybackClock, FileTimeFollowsTheRateHoldsWhilePausedAndFoldsBackAtEachPlay)
+{
     std::chrono::nanoseconds now{5s};
-    PlaybackClock clock{3.0, [this] {
+    PlaybackClock clock{3.0, [&now] {
                             return now;
                         }};
-};
-
-TEST_F(PlaybackClockTest, FileTimeMovesAtTheRateAndHoldsWhilePaused)
-{
+    clock.setExtraPlays(1);
     clock.setRate(0.5F);
     clock.start();
     now += 1000ms;
@@ -114,88 +117,34 @@ TEST_F(PlaybackClockTest, FileTimeMovesAtTheRateAndHoldsWhilePaused)
     clock.setRate(2.0F);
     now += 250ms;
     EXPECT_DOUBLE_EQ(clock.currentTime(), 1.0);
-    EXPECT_EQ(clock.remaining(), 1000ms);
+    EXPECT_EQ(clock.remaining(), 2500ms);
     clock.pause();
     now += 5000ms;
-    EXPECT_FALSE(clock.isRunning());
     EXPECT_DOUBLE_EQ(clock.currentTime(), 1.0);
     clock.start();
-    now += 300ms;
-    EXPECT_DOUBLE_EQ(clock.currentTime(), 1.6);
-}
-
-// Time runs over every play; the file time folds back at each new play and stays at the end.
-TEST_F(PlaybackClockTest, ExtraPlaysFoldIntoFileTimeAndSettingItStaysInThePlay)
-{
-    clock.setExtraPlays(2);
-    EXPECT_DOUBLE_EQ(clock.totalTime(), 9.0);
-    clock.start();
-    now += 4000ms;
-    clock.setCurrentTime(0.0);
-    EXPECT_DOUBLE_EQ(clock.playThroughTime(), 3.0);
-    now += 4500ms;
-    EXPECT_DOUBLE_EQ(clock.currentTime(), 1.5);
+    now += 1500ms;
+    EXPECT_DOUBLE_EQ(clock.playThroughTime(), 4.0);
+    EXPECT_DOUBLE_EQ(clock.currentTime(), 1.0);
+    clock.setCurrentTime(0.5);
+    EXPECT_DOUBLE_EQ(clock.playThroughTime(), 3.5) << "setting the time stays in the play";
     EXPECT_FALSE(clock.atEnd());
     now += 5000ms;
     EXPECT_TRUE(clock.atEnd());
     EXPECT_DOUBLE_EQ(clock.currentTime(), 3.0);
     EXPECT_EQ(clock.remaining(), 0ms);
-    clock.setCurrentTime(99.0);
-    EXPECT_DOUBLE_EQ(clock.currentTime(), 3.0);
-    clock.seek(-1.0);
-    EXPECT_DOUBLE_EQ(clock.playThroughTime(), 0.0);
 }
 
-// The player as it runs where no sound device exists: the time is real, so the files are short.
-TEST(SilentPlayer, TimeAdvancesAtTheRateAndPauseHoldsIt)
-{
-    const QTemporaryDir folder;
-    const auto player = TempoAudioPlayer::open(toneFile(folder, 1.0), SoundDestination::nowhere);
-    ASSERT_TRUE(player);
-    EXPECT_NEAR(player->duration(), 1.0, 1e-9);
-    QSignalSpy finished(player.get(), &AudioPlayer::finished);
-    player->setRate(2.0F);
-    QElapsedTimer wall;
-    wall.start();
-    player->play();
-    QTest::qWait(60);
-    const double before = static_cast<double>(wall.nsecsElapsed()) / 1e9;
-    const double time = player->currentTime();
-    const double after = static_cast<double>(wall.nsecsElapsed()) / 1e9;
-    EXPECT_TRUE(player->isPlaying());
-    EXPECT_GE(time, 2.0 * before - 0.01);
-    EXPECT_LE(time, 2.0 * after + 0.01);
-
-    player->pause();
-    const double held = player->currentTime();
-    EXPECT_FALSE(player->isPlaying());
-    QTest::qWait(30);
-    EXPECT_DOUBLE_EQ(player->currentTime(), held);
-    // Near the end, it finishes from there.
-    player->setCurrentTime(0.97);
-    EXPECT_DOUBLE_EQ(player->currentTime(), 0.97);
-    player->play();
-    ASSERT_TRUE(finished.wait(2000));
-    EXPECT_EQ(finished.size(), 1);
-
-    player->setRate(0.1F);
-    EXPECT_FLOAT_EQ(player->rate(), 0.2F);
-    player->setVolume(1.5F);
-    EXPECT_FLOAT_EQ(player->volume(), 1.0F);
-    player->setVolume(-1.0F);
-    EXPECT_FLOAT_EQ(player->volume(), 0.0F);
-}
-
+// The player as it runs where no sound device exists: the time is real, so the file is short.
 // Two loops are two extra plays: 3 x 0.2 s of file at rate 2 (3 is above the bound) end after
-// 0.3 s, once. A finished player plays again from the top; stop() keeps its place like pause().
-TEST(SilentPlayer, FinishesOnceAfterTheLoopsAndPlaysAgainFromTheTop)
+// 0.3 s, once. A finished player plays again from the top.
+TEST(SilentPlayer, FinishesOnceAfterTheLoopsAndPlaysAgainFromTheTopAtTheRate)
 {
     const QTemporaryDir folder;
     const auto player = TempoAudioPlayer::open(toneFile(folder, 0.2), SoundDestination::nowhere);
     ASSERT_TRUE(player);
+    EXPECT_NEAR(player->duration(), 0.2, 1e-9);
     QSignalSpy finished(player.get(), &AudioPlayer::finished);
     player->setNumberOfLoops(2);
-    EXPECT_EQ(player->numberOfLoops(), 2);
     player->setRate(3.0F);
     EXPECT_FLOAT_EQ(player->rate(), 2.0F);
     QElapsedTimer wall;
@@ -209,71 +158,53 @@ TEST(SilentPlayer, FinishesOnceAfterTheLoopsAndPlaysAgainFromTheTop)
     QTest::qWait(50);
     EXPECT_EQ(finished.size(), 1);
 
+    player->setNumberOfLoops(0);
+    player->setRate(0.1F);
+    EXPECT_FLOAT_EQ(player->rate(), 0.2F);
+    wall.restart();
     player->play();
+    QTest::qWait(60);
+    const double before = static_cast<double>(wall.nsecsElapsed()) / 1e9;
+    const double time = player->currentTime();
+    const double after = static_cast<double>(wall.nsecsElapsed()) / 1e9;
     EXPECT_TRUE(player->isPlaying());
-    EXPECT_LT(player->currentTime(), 0.1);
-    player->stop();
-    const double stopped = player->currentTime();
+    EXPECT_GE(time, 0.2 * before - 0.002);
+    EXPECT_LE(time, 0.2 * after + 0.002);
+
+    player->pause();
+    const double held = player->currentTime();
     EXPECT_FALSE(player->isPlaying());
+    QTest::qWait(30);
+    EXPECT_DOUBLE_EQ(player->currentTime(), held);
+    // Near the end, it finishes from there.
+    player->setCurrentTime(0.19);
     player->play();
-    EXPECT_GE(player->currentTime(), stopped);
+    ASSERT_TRUE(finished.wait(2000));
+    EXPECT_EQ(finished.size(), 2);
 }
 
-TEST(OpenFailure, NoPlayerAndOneLogLineNamingTheFile)
+TEST(OpenFailure, NoPlayerForAFileThatCannotBePlayed)
 {
     const QTemporaryDir folder;
     const QString noise = folder.filePath(QStringLiteral("noise.mp3"));
-    const QString cut = folder.filePath(QStringLiteral("cut.wav"));
     const QString empty = folder.filePath(QStringLiteral("empty.wav"));
     ASSERT_TRUE(AudioFixtures::writeBytes(noise, QByteArray(3000, '\x5a')));
-    ASSERT_TRUE(AudioFixtures::writeBytes(cut, QByteArrayLiteral("RIFF\x24\x00\x00\x00WAVEfmt ")));
     ASSERT_TRUE(
         AudioFixtures::writeSound(empty, SF_FORMAT_WAV | SF_FORMAT_PCM_16, toneRate, 1, {}));
-    for (const QString &path : {QStringLiteral("/nonexistent/voices/101.mp3"), noise, cut, empty}) {
-        SCOPED_TRACE(path.toStdString());
-        const AudioFixtures::LogCapture log;
-        EXPECT_EQ(makeAudioPlayer(path), nullptr);
-        ASSERT_EQ(log.lines().size(), 1) << log.lines().join(u'\n').toStdString();
-        EXPECT_TRUE(log.lines().first().contains(path));
-    }
+    for (const QString &path : {QStringLiteral("/nonexistent/voices/101.mp3"), noise, empty})
+        EXPECT_EQ(makeAudioPlayer(path), nullptr) << qPrintable(path);
 }
 
-TEST(PlaySound, PlaysAtThePreferredSpeedWithTheLoopsAtFullVolume)
+TEST(PlaySound, PlaysAtThePreferredSpeedAtFullVolume)
 {
     AudioPlayerStubFactory players;
     const QString path = QStringLiteral("/course/1/voices/101.mp3");
-    // A speed of 0 or below plays at 1.
-    for (const auto &[speed, heard] : {std::pair{1.4F, 1.4F}, {0.0F, 1.0F}, {-0.6F, 1.0F}}) {
-        Preferences::instance().setPlaySpeed(speed);
-        const auto player = playSound(path, 2);
-        ASSERT_TRUE(player);
-        ASSERT_EQ(player.get(), players.last);
-        EXPECT_FLOAT_EQ(players.last->rate(), heard);
-        EXPECT_EQ(players.last->numberOfLoops(), 2);
-        EXPECT_FLOAT_EQ(players.last->volume(), 1.0F);
-        EXPECT_TRUE(players.last->isPlaying());
-    }
+    Preferences::instance().setPlaySpeed(1.4F);
+    const auto player = playSound(path, 0);
     Preferences::instance().setPlaySpeed(1.0F);
-    EXPECT_EQ(players.requested, QStringList(3, path));
-    players.unplayable.append(path);
-    EXPECT_EQ(playSound(path, 0), nullptr);
-}
-
-// Everywhere: an output that never sounded still shuts its audio thread down and frees what
-// lives there when it goes, with calls still posted to it.
-TEST(DevicePlayer, OutputThreadShutsDownCleanly)
-{
-    const QTemporaryDir folder;
-    auto stream = StretchedStream::open(toneFile(folder, 0.2));
-    ASSERT_TRUE(stream);
-    QAudioFormat format;
-    format.setSampleFormat(QAudioFormat::Float);
-    auto output = std::make_unique<SinkSoundOutput>(std::move(stream), QAudioDevice(), format);
-    output->setRate(0.5F);
-    output->setExtraPlays(1);
-    output->seek(0.1);
-    output->setVolume(0.5F);
-    output.reset();
+    ASSERT_TRUE(player);
+    EXPECT_FLOAT_EQ(player->rate(), 1.4F);
+    EXPECT_FLOAT_EQ(player->volume(), 1.0F);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "stubs/AudioPlayerStub.h"
 
 #include <QElapsedTimer>
+#include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -12,29 +13,8 @@ namespace {
 
 const QStringList threeItems{u"/course/a.mp3"_s, u"/course/b.mp3"_s, u"/course/c.mp3"_s};
 
-/// Writes down what a box tells its host, in order and repeated ticks once: "played", "stopped",
-/// "finished", "tick", each followed by "(null)" when there is no player.
-void recordEvents(VoPlayerBox &box, QStringList &events)
-{
-    const auto note = [&events](const char *what) {
-        return [&events, what](AudioPlayer *player) {
-            const QString event = QString::fromLatin1(what) + (player ? u""_s : u"(null)"_s);
-            if (event != u"tick"_s || events.isEmpty() || events.constLast() != event)
-                events.append(event);
-        };
-    };
-    QObject::connect(&box, &VoPlayerBox::played, &box, note("played"));
-    QObject::connect(&box, &VoPlayerBox::stopped, &box, note("stopped"));
-    QObject::connect(&box, &VoPlayerBox::didFinishPlaying, &box, note("finished"));
-    QObject::connect(&box, &VoPlayerBox::periodicTimeObserver, &box, note("tick"));
-}
-
 class VoPlayerBoxTest : public ::testing::Test {
 protected:
-    void SetUp() override { recordEvents(box, events); }
-
-    QStringList take() { return std::exchange(events, {}); }
-
     /// The sounding item ends by itself.
     void finishItem() const
     {
@@ -61,7 +41,6 @@ protected:
     }
 
     AudioPlayerStubFactory players;
-    QStringList events;
     VoPlayerBox box;
 };
 
@@ -72,12 +51,10 @@ TEST_F(VoPlayerBoxTest, PlayPauseResumeAndStopFollowTheStateTable)
     EXPECT_EQ(state(), u"Playing 0 vo_pause vo_stop -last_item2 next_item speeddown speedup"_s);
     EXPECT_EQ(players.requested, QStringList{threeItems[0]});
     EXPECT_TRUE(players.last->isPlaying() && box.isTimerRunning());
-    EXPECT_EQ(take(), QStringList{u"played"_s});
 
     box.play(true);
     EXPECT_EQ(state(), u"Paused 0 vo_play vo_stop -last_item2 next_item -speeddown2 -speedup2"_s);
     EXPECT_FALSE(players.last->isPlaying());
-    EXPECT_TRUE(box.isTimerRunning()) << "a paused box keeps ticking";
     box.play(true);
     EXPECT_TRUE(players.last->isPlaying());
     EXPECT_EQ(players.requested.size(), 1) << "resuming opens nothing";
@@ -89,15 +66,6 @@ TEST_F(VoPlayerBoxTest, PlayPauseResumeAndStopFollowTheStateTable)
     EXPECT_EQ(state(), u"Stopped 0 vo_play -vo_stop2 last_item next_item -speeddown2 -speedup2"_s);
     EXPECT_FALSE(players.last->isPlaying() || box.isTimerRunning());
     EXPECT_EQ(players.last->currentTime(), 0.0) << "rewound";
-    EXPECT_EQ(take(), (QStringList{u"stopped"_s, u"played"_s, u"stopped"_s}));
-    box.stop();
-    EXPECT_TRUE(take().isEmpty()) << "a stopped box ignores stop";
-
-    // Stopping a paused box leaves its timer running, reporting an unchanged time.
-    box.play(true);
-    box.play(true);
-    box.stop();
-    EXPECT_TRUE(box.isTimerRunning());
 }
 
 TEST_F(VoPlayerBoxTest, SequenceStopsAfterTheLastItemAndAPressThereStartsAgain)
@@ -125,17 +93,6 @@ TEST_F(VoPlayerBoxTest, SequenceStopsAfterTheLastItemAndAPressThereStartsAgain)
     box.play();
     box.play();
     EXPECT_EQ(box.currItemIndex(), 2);
-
-    // A one-item list ends, and a press plays its item again.
-    box.stop();
-    box.setupPlayer({threeItems[0]});
-    players.requested.clear();
-    box.play(true);
-    finishItem();
-    EXPECT_EQ(box.playStatus(), VoPlayerBox::Finished);
-    box.play(true);
-    EXPECT_EQ(players.requested, QStringList(2, threeItems[0]));
-    EXPECT_EQ(state(), u"Playing 0 vo_pause vo_stop -last_item2 -next_item2 speeddown speedup"_s);
 }
 
 TEST_F(VoPlayerBoxTest, RepeatModesChooseTheNextItem)
@@ -155,28 +112,15 @@ TEST_F(VoPlayerBoxTest, RepeatModesChooseTheNextItem)
     finishItem();
     finishItem();
     EXPECT_EQ(players.requested, (QStringList{threeItems[2], threeItems[0], threeItems[1]}));
-    box.setupPlayer({threeItems[0]});
-    finishItem();
-    finishItem();
-    EXPECT_EQ(players.requested.mid(3), QStringList(2, threeItems[0])) << "one item repeats too";
     EXPECT_EQ(box.playStatus(), VoPlayerBox::Playing);
 
     box.switchPlayModel();
-    EXPECT_EQ(box.playModel(), VoPlayerBox::Sequential);
     EXPECT_EQ(box.playModelImage(), u"replay_seq"_s);
 }
 
-TEST_F(VoPlayerBoxTest, SpeedStepsOnlyWhilePlayingAndThePlayerRateIsClamped)
+TEST_F(VoPlayerBoxTest, SpeedStepsShowABadgeAndThePlayerRateIsClamped)
 {
     box.setupPlayer(threeItems);
-    box.speedUp();
-    box.play(true);
-    box.play(true);
-    box.speedUp();
-    box.speedDown();
-    EXPECT_EQ(box.playRate(), 1.0F) << "stopped or paused: nothing changes";
-    EXPECT_FALSE(box.speedRemindVisible());
-
     box.play(true);
     for (int press = 0; press < 6; ++press)
         box.speedUp();
@@ -185,7 +129,6 @@ TEST_F(VoPlayerBoxTest, SpeedStepsOnlyWhilePlayingAndThePlayerRateIsClamped)
     EXPECT_TRUE(box.speedRemindVisible());
     EXPECT_EQ(box.speedRemindText(), u"2.0X"_s);
     EXPECT_EQ(box.speedRemindAnchor(), u"speedUp"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !box.speedRemindVisible(); }, 1000));
 
     // One press back leaves the sound at 2.0; the next item gets the clamped rate at once.
     box.speedDown();
@@ -200,12 +143,8 @@ TEST_F(VoPlayerBoxTest, SpeedStepsOnlyWhilePlayingAndThePlayerRateIsClamped)
 
 TEST_F(VoPlayerBoxTest, PreviousAndNextStayWithinTheList)
 {
-    box.resetBtnImage();
-    EXPECT_FALSE(box.nextEnabled()) << "no list, index -1";
-    // An empty category: next shows enabled (count - 1 compares as unsigned), yet plays nothing.
+    // An empty category plays nothing.
     box.setupPlayer({});
-    box.resetBtnImage();
-    EXPECT_TRUE(box.nextEnabled());
     box.playNextItem();
     box.play(true);
     EXPECT_TRUE(players.requested.isEmpty());
@@ -216,8 +155,6 @@ TEST_F(VoPlayerBoxTest, PreviousAndNextStayWithinTheList)
     EXPECT_EQ(players.requested.size(), 1);
     box.playItem(2);
     box.playNextItem();
-    box.playItem(3);
-    box.playItem(-1);
     EXPECT_EQ(players.requested, (QStringList{threeItems[0], threeItems[2]}));
     box.playLastItem();
     EXPECT_EQ(state(), u"Playing 1 vo_pause vo_stop last_item next_item speeddown speedup"_s);
@@ -227,31 +164,24 @@ TEST_F(VoPlayerBoxTest, DelayBetweenItemsIsSilentAndStopCancelsTheStart)
 {
     box.setupPlayer(threeItems);
     box.play(true);
-    box.tick();
-    take();
-
     box.setTimeOfItemdelay(1);
     QElapsedTimer wall;
     wall.start();
     finishItem();
-    EXPECT_EQ(take(), (QStringList{u"finished"_s, u"stopped"_s}));
     EXPECT_TRUE(box.waitingToStart());
+    EXPECT_FALSE(box.isTimerRunning()) << "nothing ticks during the pause";
     EXPECT_EQ(state(), u"Finished 1 vo_play -vo_stop2 last_item next_item -speeddown2 -speedup2"_s);
     EXPECT_EQ(players.requested.size(), 1) << "the next item opens only after the pause";
     ASSERT_TRUE(QTest::qWaitFor([&] { return box.playStatus() == VoPlayerBox::Playing; }, 3000));
     EXPECT_GE(wall.elapsed(), 900);
     EXPECT_FALSE(box.waitingToStart());
     EXPECT_EQ(players.requested.constLast(), threeItems[1]);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return events.contains(u"tick"_s); }, 1000));
-    EXPECT_EQ(take().constFirst(), u"played"_s) << "nothing ticks during the pause";
 
     finishItem();
-    EXPECT_TRUE(box.waitingToStart());
     box.stop();
     EXPECT_FALSE(box.waitingToStart());
     EXPECT_EQ(box.playStatus(), VoPlayerBox::Stopped);
     EXPECT_EQ(players.requested.size(), 2);
-    EXPECT_EQ(take(), (QStringList{u"finished"_s, u"stopped"_s, u"stopped"_s}));
 }
 
 TEST_F(VoPlayerBoxTest, OnePlayerIsSharedByAllBoxes)
@@ -259,23 +189,22 @@ TEST_F(VoPlayerBoxTest, OnePlayerIsSharedByAllBoxes)
     box.setupPlayer(threeItems);
     box.play(true);
     AudioPlayerStub *first = players.last;
-    take();
+    QSignalSpy finished(&box, &VoPlayerBox::didFinishPlaying);
     {
-        QStringList otherEvents;
         VoPlayerBox other;
-        recordEvents(other, otherEvents);
+        QSignalSpy otherFinished(&other, &VoPlayerBox::didFinishPlaying);
         other.setupPlayer({u"/course/x.mp3"_s});
         other.play(true);
         EXPECT_FALSE(first->isPlaying()) << "the new start silences the other box";
         EXPECT_EQ(VoPlayerBox::audioPlayer(), players.last);
-        otherEvents.clear();
         players.last->finishPlaying();
-        EXPECT_EQ(otherEvents, QStringList{u"finished"_s});
-        EXPECT_TRUE(take().isEmpty()) << "only the box that started it hears the end";
+        EXPECT_EQ(otherFinished.count(), 1);
+        EXPECT_EQ(finished.count(), 0) << "only the box that started it hears the end";
     }
     EXPECT_EQ(VoPlayerBox::audioPlayer(), nullptr) << "the box took its sound with it";
 }
 
+// A file that cannot be played still moves the bar, and the controls go on working.
 TEST_F(VoPlayerBoxTest, AMissingFileStillPlaysWithoutAPlayer)
 {
     players.unplayable = {threeItems[1]};
@@ -283,11 +212,7 @@ TEST_F(VoPlayerBoxTest, AMissingFileStillPlaysWithoutAPlayer)
     box.playItem(1);
     EXPECT_EQ(VoPlayerBox::audioPlayer(), nullptr);
     EXPECT_EQ(state(), u"Playing 1 vo_pause vo_stop last_item next_item speeddown speedup"_s);
-    EXPECT_TRUE(box.isTimerRunning());
     box.tick();
-    EXPECT_EQ(box.timeText(), u"00:00"_s);
-    EXPECT_EQ(take(), (QStringList{u"stopped(null)"_s, u"played(null)"_s, u"tick(null)"_s}));
-
     box.speedUp();
     box.play(true);
     box.play(true);
@@ -296,21 +221,6 @@ TEST_F(VoPlayerBoxTest, AMissingFileStillPlaysWithoutAPlayer)
     box.play(true);
     EXPECT_EQ(players.requested.constLast(), threeItems[0]);
     EXPECT_TRUE(players.last->isPlaying());
-}
-
-TEST_F(VoPlayerBoxTest, ItemsStartWithTheLoopsAtTheSliderVolumeAndTheTimeShowsMinutes)
-{
-    box.setupPlayer(threeItems, 2, 0);
-    box.setVolumeSliderValue(0.4);
-    box.play(true);
-    EXPECT_EQ(players.last->numberOfLoops(), 2);
-    EXPECT_FLOAT_EQ(players.last->volume(), 0.4F);
-    box.setVolumeSliderValue({});
-    box.playNextItem();
-    EXPECT_FLOAT_EQ(players.last->volume(), 1.0F) << "no slider, the player's own volume";
-    players.last->setCurrentTime(125.7);
-    box.tick();
-    EXPECT_EQ(box.timeText(), u"02:05"_s);
 }
 
 } // namespace

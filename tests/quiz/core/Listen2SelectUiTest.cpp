@@ -41,7 +41,7 @@ TEST_F(Listen2SelectUiTest, PlaysAUnitQuizFromTheMenuThenLeavesAnotherHalfWay)
     ASSERT_TRUE(app.waitForDepth(4));
     auto *quiz = app.currentPage()->findChild<Listen2SelectVC *>();
     ASSERT_NE(quiz, nullptr);
-    ASSERT_EQ(quiz->categoryInfo()->id, u"1"_s);
+    ASSERT_EQ(quiz->categoryInfo() ? quiz->categoryInfo()->id : QString(), u"1"_s);
     EXPECT_EQ(text(u"toolBarTitle"_s), u"Listen And Select"_s);
     EXPECT_EQ(text(u"limitedTimeLbl"_s), u"01:00"_s);
     app.tapCentre(item(u"loudspeakerButton"_s));

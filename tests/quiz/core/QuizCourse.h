@@ -59,25 +59,26 @@ public:
     }
 };
 
-/// The slot holding the question's own text, and one whose text differs from it even ignoring
-/// case: found without the rule under test, so that a broken rule cannot pick the taps.
-inline int askedOption(const BaseQuizViewController &quiz)
+/// The first option whose German text is the question's (same) or differs from it even
+/// ignoring case (!same), -1 when none does: found without the rule under test, so that a
+/// broken rule cannot pick the taps.
+inline int optionSlot(const BaseQuizViewController &quiz, bool same)
 {
     const QString asked = quiz.phraseInfos().at(quiz.currIndex())->content;
     for (int i = 0; i < quiz.currOptions().size(); ++i) {
-        if (quiz.currOptions().at(i)->content == asked)
+        const QString &text = quiz.currOptions().at(i)->content;
+        if (same ? text == asked : text.compare(asked, Qt::CaseInsensitive) != 0)
             return i;
     }
     return -1;
 }
+inline int askedOption(const BaseQuizViewController &quiz)
+{
+    return optionSlot(quiz, true);
+}
 inline int wrongOption(const BaseQuizViewController &quiz)
 {
-    const QString asked = quiz.phraseInfos().at(quiz.currIndex())->content;
-    for (int i = 0; i < quiz.currOptions().size(); ++i) {
-        if (quiz.currOptions().at(i)->content.compare(asked, Qt::CaseInsensitive) != 0)
-            return i;
-    }
-    return -1;
+    return optionSlot(quiz, false);
 }
 
 /// A fresh record and English as the learner's language before each test.

@@ -163,3 +163,35 @@ TEST_F(DecodeAudioDataTest, BadFilesFailWithOneLineNamingThem)
 }
 
 } // namespace
+
+// What the recogniser hears of any file: a 44.1 kHz stereo WAV read as if it were 16 kHz mono
+// would last 5.5 times too long; a clipped one must not wrap round; 16 kHz mono comes as stored.
+TEST_F(DecodeAudioDataTest, SpeechSamplesAre16kHzMonoWhateverTheFile)
+{
+    std::vector<int16_t> heard;
+    const QString cd = write("cd.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_16, 44100, 2,
+                             tone(44100, 2.0, 440.0, {0.5, 0.5}));
+    ASSERT_EQ(VoAudioUtil::decodeSpeechSamples(cd, heard, 10 * 16000), 0);
+    EXPECT_NEAR(static_cast<double>(heard.size()), 32000.0, 2.0);
+    EXPECT_NEAR(measuredFrequency(heard, 16000), 440.0, 4.0);
+
+    std::vector<int32_t> square(44100);
+    for (size_t i = 0; i < square.size(); ++i)
+        square[i] = (i / 50) % 2 == 0 ? INT32_MAX : INT32_MIN;
+    const QString clipped =
+        write("clipped.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_16, 44100, 1, square);
+    ASSERT_EQ(VoAudioUtil::decodeSpeechSamples(clipped, heard, 10 * 16000), 0);
+    // Mid-way through each half period the sign is the square's: a wrap would flip it.
+    for (size_t half = 1; half + 1 < heard.size() * 441 / 160 / 50; ++half) {
+        const auto at = static_cast<size_t>((static_cast<double>(half) + 0.5) * 50 * 160 / 441);
+        ASSERT_EQ(heard[at] > 0, half % 2 == 0) << at;
+    }
+
+    const std::vector<int16_t> own{0, 1, -1, 32767, -32768, 0x1234};
+    const QString asStored =
+        write("own.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_16, 16000, 1, fromShorts(own));
+    ASSERT_EQ(VoAudioUtil::decodeSpeechSamples(asStored, heard, 10 * 16000), 0);
+    EXPECT_EQ(heard, own);
+    EXPECT_EQ(VoAudioUtil::decodeSpeechSamples(cd, heard, 16000), AudioDecodeStatus::tooLarge);
+    EXPECT_TRUE(heard.empty());
+}

@@ -160,7 +160,8 @@ TEST_F(VoPlayerBoxTest, PreviousAndNextStayWithinTheList)
     EXPECT_EQ(state(), u"Playing 1 vo_pause vo_stop last_item next_item speeddown speedup"_s);
 }
 
-TEST_F(VoPlayerBoxTest, DelayBetweenItemsIsSilentAndStopCancelsTheStart)
+// The pause between items is part of playing the list: Stop ends it and Play holds it.
+TEST_F(VoPlayerBoxTest, DelayBetweenItemsIsSilentAndCanBeHeldOrStopped)
 {
     box.setupPlayer(threeItems);
     box.play(true);
@@ -170,18 +171,29 @@ TEST_F(VoPlayerBoxTest, DelayBetweenItemsIsSilentAndStopCancelsTheStart)
     finishItem();
     EXPECT_TRUE(box.waitingToStart());
     EXPECT_FALSE(box.isTimerRunning()) << "nothing ticks during the pause";
-    EXPECT_EQ(state(), u"Finished 1 vo_play -vo_stop2 last_item next_item -speeddown2 -speedup2"_s);
+    EXPECT_EQ(state(), u"Finished 1 vo_pause vo_stop last_item next_item -speeddown2 -speedup2"_s);
     EXPECT_EQ(players.requested.size(), 1) << "the next item opens only after the pause";
     ASSERT_TRUE(QTest::qWaitFor([&] { return box.playStatus() == VoPlayerBox::Playing; }, 3000));
     EXPECT_GE(wall.elapsed(), 900);
-    EXPECT_FALSE(box.waitingToStart());
     EXPECT_EQ(players.requested.constLast(), threeItems[1]);
 
     finishItem();
+    box.play(true);
+    EXPECT_FALSE(box.waitingToStart());
+    EXPECT_EQ(state(), u"Paused 2 vo_play vo_stop last_item -next_item2 -speeddown2 -speedup2"_s);
+    QTest::qWait(1100);
+    EXPECT_EQ(players.requested.size(), 2) << "a held pause starts nothing";
+    box.play(true);
+    EXPECT_EQ(box.playStatus(), VoPlayerBox::Playing);
+    EXPECT_EQ(players.requested.constLast(), threeItems[2]);
+
+    box.playLastItem();
+    EXPECT_TRUE(box.waitingToStart());
     box.stop();
     EXPECT_FALSE(box.waitingToStart());
     EXPECT_EQ(box.playStatus(), VoPlayerBox::Stopped);
-    EXPECT_EQ(players.requested.size(), 2);
+    QTest::qWait(1100);
+    EXPECT_EQ(players.requested.size(), 3) << "a stopped pause starts nothing";
 }
 
 TEST_F(VoPlayerBoxTest, OnePlayerIsSharedByAllBoxes)

@@ -12,17 +12,13 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-/**
- * @brief The app with a silent player, and a quiz screen pushed onto it as the quiz menu pushes
- * it; the quiz kinds' UI tests derive from it. QuizCourse.h brings askedOption() and wrongOption().
- */
+/// The app with a silent player; quiz screens are pushed onto it as the quiz menu pushes them.
 class QuizUiTest : public ::testing::Test {
 protected:
     AudioPlayerStubFactory players;
     AppWindow app;
 
-    /// Pushes the page with the properties, given as the inside of a script object literal
-    /// ("categoryId: \"1\""), and returns its controller.
+    /// Pushes the page with the properties ("categoryId: \"1\"") and returns its controller.
     template <typename Quiz> Quiz *pushQuiz(const QString &page, const QString &properties)
     {
         QQmlExpression push(qmlContext(app.stack()), app.stack(),
@@ -47,8 +43,7 @@ protected:
     }
 };
 
-/// Installs QuizCourse before the app starts, so that the app shows it, in English and with
-/// the usual minute whatever a test before left.
+/// Installs QuizCourse before the app opens a course, in English, with the usual minute.
 struct QuizCourseFirst {
     QuizCourseFirst()
     {
@@ -58,10 +53,7 @@ struct QuizCourseFirst {
     }
 };
 
-/**
- * @brief QuizUiTest on QuizCourse, with a fresh record, so that one program can hold a kind's
- * UI session and its model-level cases (QuizTest) on one course.
- */
+/// QuizUiTest on QuizCourse with a fresh record.
 class QuizCourseUiTest : private QuizCourseFirst, public QuizUiTest {
 protected:
     void SetUp() override { ASSERT_TRUE(writeUserInfo(initialUserInfo())); }
@@ -89,15 +81,24 @@ protected:
             << row;
     }
 
+    /// The score label of a finished session: its points in their band's colour.
+    void expectScoreLabel(int points, const char *colour) const
+    {
+        EXPECT_EQ(text(QStringLiteral("scoreLbl")),
+                  QStringLiteral("Score: <font color=\"%1\">%2</font>/100")
+                      .arg(QLatin1String(colour))
+                      .arg(points));
+    }
+
     /// Opens the page on all phrases, submits one question by Return, runs whileAsking and
-    /// leaves: the countdown stops as the screen starts to go, and nothing is recorded.
+    /// leaves: the countdown stops as the screen goes, and the record does not move.
     template <typename Quiz>
     void leaveHalfWay(const QString &page, const std::function<void()> &whileAsking = {})
     {
         const qint64 quizzes = userInfoInt(UserInfoKey::quizCount);
         Quiz *quiz = pushQuiz<Quiz>(page, QStringLiteral("categoryId: \"\""));
         ASSERT_NE(quiz, nullptr);
-        EXPECT_EQ(quiz->questionCount(), 10) << "no category: all phrases";
+        EXPECT_EQ(quiz->questionCount(), 10);
         QTest::keyClick(app.window(), Qt::Key_Return);
         EXPECT_EQ(quiz->currIndex(), 1);
         if (whileAsking)
@@ -106,14 +107,5 @@ protected:
         EXPECT_FALSE(quiz->isCountingDown());
         ASSERT_TRUE(app.waitForDepth(1));
         EXPECT_EQ(userInfoInt(UserInfoKey::quizCount), quizzes);
-    }
-
-    /// The styled score label of a finished session: its points in their band's colour.
-    void expectScoreLabel(int points, const char *colour) const
-    {
-        EXPECT_EQ(text(QStringLiteral("scoreLbl")),
-                  QStringLiteral("Score: <font color=\"%1\">%2</font>/100")
-                      .arg(QLatin1String(colour))
-                      .arg(points));
     }
 };

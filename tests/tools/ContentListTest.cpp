@@ -2,8 +2,6 @@
 #include "content/AppCommon.h"
 
 #include <QDir>
-#include <QFileInfo>
-#include <QImage>
 
 namespace {
 
@@ -32,18 +30,11 @@ TEST(ContentList, CategoriesAndOneCategorysPhrasesInTheChosenLanguage)
     ASSERT_EQ(phrases.exitCode, 0) << phrases.err.toStdString();
     const QStringList lines = phrases.outLines();
     ASSERT_EQ(lines.size(), store.loadPhrases(u"3"_s)->size());
-    const QString folder = QDir(TestPaths::course()).filePath(u"3/"_s);
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        SCOPED_TRACE(lines[i].toStdString());
-        const PhraseInfo &phrase = *store.loadPhrases(u"3"_s)->at(i);
-        const QStringList columns = lines[i].split(u'\t');
-        ASSERT_EQ(columns.size(), 6);
-        EXPECT_EQ(columns.mid(0, 4), (QStringList{phrase.id, phrase.content, phrase.phon,
-                                                  phrase.trans.value(u"fr"_s)}));
-        EXPECT_TRUE(columns[4].startsWith(folder + u"voices/"_s));
-        EXPECT_GT(QFileInfo(columns[4]).size(), 0);
-        EXPECT_TRUE(columns[5].startsWith(folder + u"images/"_s));
-        EXPECT_FALSE(QImage(columns[5]).isNull());
+        PhraseInfo &phrase = *store.loadPhrases(u"3"_s)->at(i);
+        EXPECT_EQ(lines[i].split(u'\t'),
+                  (QStringList{phrase.id, phrase.content, phrase.phon, phrase.trans.value(u"fr"_s),
+                               store.soundPath(phrase), store.imagePath(phrase)}));
     }
 }
 

@@ -48,11 +48,9 @@ AppWindow::AppWindow()
         qFatal("the app window has no screen stack");
 }
 
-// Left to the engine, the window and its renderer go first and the pictures the screens showed
-// are released afterwards, too late for the software renderer to free their textures (the leak
-// checker sees them). So: screens first, then the picture cache, then one frame to free them.
-// Screens taken apart while the window lives make their bindings complain about missing
-// parents; that is expected here and kept out of the test output.
+// Screens first, then the picture cache, then one frame: left to the engine, the renderer goes
+// before the pictures and their textures leak. The screens' bindings then complain of missing
+// parents, which is expected and kept out of the output.
 AppWindow::~AppWindow()
 {
     m_engine.setOutputWarningsToStandardError(false);

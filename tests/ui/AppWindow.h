@@ -10,13 +10,8 @@
 class QQuickItem;
 class QQuickWindow;
 
-/**
- * @brief The app as main.cpp brings it up, on the sample course the build made, with its
- * window shown and in English.
- *
- * Start-up runs once per test program, so the experience total after it is that of a first
- * start. Each instance loads a fresh window.
- */
+/// The app as main.cpp brings it up, on the course the build made, shown and in English. Start-up
+/// runs once per test program (a first start); each instance loads a fresh window.
 class AppWindow {
 public:
     AppWindow();
@@ -40,9 +35,8 @@ public:
     void tap(QQuickItem *item, QPointF point) const;
     void tapCentre(QQuickItem *item) const;
 
-    /// A view of the app's module (qrc:/Tolvane/{file}) placed over the window, its properties,
-    /// required ones included, set before it completes; null, with QML's errors logged, when it
-    /// cannot be made.
+    /// A view of qrc:/Tolvane/{file} over the window, its properties (required ones too) set
+    /// before it completes; null, with QML's errors logged, when it cannot be made.
     [[nodiscard]] std::unique_ptr<QObject> createView(const QString &file,
                                                       const QVariantMap &properties);
 

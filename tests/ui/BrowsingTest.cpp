@@ -20,11 +20,9 @@ QString toolBarTitle(const AppWindow &app)
     return textOf(app.currentPage(), u"toolBarTitle"_s);
 }
 
-// A screenshot that shows the app: the window's size, the tool bar's colour at the top and
-// enough different colours below it to be text rather than an empty page.
+// The whole window, the tool bar's colour at the top and enough colours below it to be text.
 void expectPainted(const QImage &image, QSize size)
 {
-    ASSERT_FALSE(image.isNull());
     EXPECT_EQ(image.size(), size);
     EXPECT_EQ(image.pixelColor(image.width() / 2, 4).rgb(), AppColors::barBlue().rgb());
     QSet<QRgb> colours;
@@ -32,11 +30,6 @@ void expectPainted(const QImage &image, QSize size)
         for (int x = 0; x < image.width(); x += 2)
             colours.insert(image.pixel(x, y));
     EXPECT_GT(colours.size(), 20);
-}
-
-CategoryInfo &category(int index)
-{
-    return *loadAllCategories().at(index);
 }
 
 class BrowsingTest : public ::testing::Test {
@@ -87,7 +80,6 @@ TEST_F(BrowsingTest, MainScreenListsEveryCategoryAndOpensOneInTheLearnersLanguag
     EXPECT_EQ(toolBarTitle(app), u"Dire bonjour et au revoir"_s);
     EXPECT_EQ(textOf(first, u"phraseTranslation"_s),
               loadPhrases(u"1"_s)->at(0)->trans.value(u"fr"_s));
-    EXPECT_EQ(textOf(categoryRow(1), u"categoryName"_s), categories.at(1)->trans.value(u"fr"_s));
     Preferences::instance().setLanguageType(u"en"_s);
 
     // Points earned on the way show on the main screen once the learner is back.
@@ -111,7 +103,7 @@ TEST_F(BrowsingTest, KeysAndTapsOpenOneCategoryAtATimeZoomingAtTheTappedPoint)
     ASSERT_TRUE(app.waitForDepth(2));
     QTest::qWait(200);
     EXPECT_EQ(app.depth(), 2);
-    EXPECT_EQ(toolBarTitle(app), category(0).trans.value(u"en"_s));
+    EXPECT_EQ(toolBarTitle(app), loadAllCategories().at(0)->trans.value(u"en"_s));
 
     const std::pair<Qt::Key, Qt::KeyboardModifiers> backKeys[] = {
         {Qt::Key_Escape, Qt::NoModifier},
@@ -124,7 +116,7 @@ TEST_F(BrowsingTest, KeysAndTapsOpenOneCategoryAtATimeZoomingAtTheTappedPoint)
         QTest::keyClick(app.window(), Qt::Key_Down);
         QTest::keyClick(app.window(), Qt::Key_Return);
         ASSERT_TRUE(app.waitForDepth(2)) << key;
-        EXPECT_EQ(toolBarTitle(app), category(++expected).trans.value(u"en"_s));
+        EXPECT_EQ(toolBarTitle(app), loadAllCategories().at(++expected)->trans.value(u"en"_s));
     }
     QTest::keyClick(app.window(), Qt::Key_Escape);
     ASSERT_TRUE(app.waitForDepth(1));

@@ -50,8 +50,7 @@ public:
             }
             course.addCategory(4, u"Ähnlich"_s, {{u"en"_s, u"Alike"_s}}, four);
             setResourceRoot(course.root());
-            // The store opens one course per process: opening it now keeps an AppWindow made
-            // later on this course rather than the sample one.
+            // The store opens one course per process: open it before any AppWindow does.
             (void)allPhrases();
             return true;
         }();
@@ -60,9 +59,8 @@ public:
 };
 
 /// The first option whose German text is the question's (same) or differs from it even
-/// ignoring case (!same), -1 when none does: found without the rule under test, so that a
-/// broken rule cannot pick the taps.
-inline int optionSlot(const BaseQuizViewController &quiz, bool same)
+/// ignoring case (!same), -1 when none does: found without the rule under test.
+inline int option(const BaseQuizViewController &quiz, bool same)
 {
     const QString asked = quiz.phraseInfos().at(quiz.currIndex())->content;
     for (int i = 0; i < quiz.currOptions().size(); ++i) {
@@ -71,14 +69,6 @@ inline int optionSlot(const BaseQuizViewController &quiz, bool same)
             return i;
     }
     return -1;
-}
-inline int askedOption(const BaseQuizViewController &quiz)
-{
-    return optionSlot(quiz, true);
-}
-inline int wrongOption(const BaseQuizViewController &quiz)
-{
-    return optionSlot(quiz, false);
 }
 
 /// A fresh record and English as the learner's language before each test.
@@ -91,9 +81,6 @@ protected:
         QSettings().clear();
         Preferences::instance().setLanguageType(u"en"_s);
     }
-
-    static qint64 quizCount() { return userInfoInt(UserInfoKey::quizCount); }
-    static qint64 quizTotal() { return userInfoInt(UserInfoKey::quizTotalScore); }
 
     QRandomGenerator random{QuizCourse::seed};
     AudioPlayerStubFactory players;

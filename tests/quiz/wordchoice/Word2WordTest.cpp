@@ -38,12 +38,12 @@ TEST_F(Word2WordTest, JudgesByTheGermanTextInBothDirections)
             int twin = -1;
             int lookalike = -1;
             for (int o = 0; o < 4; ++o) {
-                const PhraseInfo *option = quiz.currOptions().at(o);
-                if (option != asked &&
-                    option->content.compare(asked->content, Qt::CaseInsensitive) == 0)
+                const QString &text = quiz.currOptions().at(o)->content;
+                if (quiz.currOptions().at(o) == asked)
+                    continue;
+                if (text.compare(asked->content, Qt::CaseInsensitive) == 0)
                     twin = o;
-                if (option != asked && fine.contains(option->content) &&
-                    fine.contains(asked->content))
+                else if (fine.contains(text) && fine.contains(asked->content))
                     lookalike = o;
             }
             quiz.selectOption(twin >= 0 ? twin : lookalike);
@@ -79,7 +79,7 @@ TEST_F(Word2WordUiTest, PlaysASessionInEachDirectionThenTheQuestionScrollsWhenCr
             ASSERT_EQ(quiz->currIndex(), i);
             const PhraseInfo &asked = *quiz->phraseInfos().at(i);
             EXPECT_EQ(text(u"currText"_s), foreign2Mother ? asked.content : english(asked));
-            const int right = askedOption(*quiz);
+            const int right = option(*quiz, true);
             ASSERT_GE(right, 0);
             EXPECT_EQ(text(u"option%1"_s.arg(right)),
                       foreign2Mother ? english(asked) : asked.content);
@@ -90,7 +90,7 @@ TEST_F(Word2WordUiTest, PlaysASessionInEachDirectionThenTheQuestionScrollsWhenCr
                 app.tapCentre(item(u"submitBtn"_s));
             } else {
                 if (i == 7)
-                    QTest::keyClick(app.window(), Qt::Key(Qt::Key_1 + wrongOption(*quiz)));
+                    QTest::keyClick(app.window(), Qt::Key(Qt::Key_1 + option(*quiz, false)));
                 QTest::keyClick(app.window(), Qt::Key_Return);
             }
         }
@@ -107,8 +107,8 @@ TEST_F(Word2WordUiTest, PlaysASessionInEachDirectionThenTheQuestionScrollsWhenCr
         QQuickItem *row = AppWindow::listRow(table, 0);
         const PhraseInfo &first = *quiz->phraseInfos().at(0);
         EXPECT_EQ(findItem(row, u"srcTextLbl"_s)->property("text").toString(), first.content);
-        // Answers read in the language they were offered in.
-        expectAnswer(0, foreign2Mother ? english(first) : first.content, true);
+        expectAnswer(0, // in the language it was offered in
+                     foreign2Mother ? english(first) : first.content, true);
         if (!foreign2Mother)
             (void)app.screenshot(u"word-choice-results"_s);
         app.tapCentre(row);

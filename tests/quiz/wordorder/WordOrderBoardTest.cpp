@@ -41,26 +41,21 @@ protected:
         board.dropWord(row(word), x, rect(row(word)).y());
     }
 
-    // No two labels overlap, all lie inside the area's width, and reading them row by row, left
-    // to right, gives the answer.
+    // No two labels overlap, all lie inside the area, and reading them row by row, left to
+    // right, gives the answer.
     void expectTidy() const
     {
         QList<int> rows;
         for (int i = 0; i < board.rowCount(); ++i) {
             const QRectF box = rect(i);
-            EXPECT_GE(box.left(), 0) << i;
-            EXPECT_LE(box.right(), board.workAreaW()) << i;
-            EXPECT_GE(box.top(), 0) << i;
-            EXPECT_LE(box.bottom(), board.contentHeight()) << i;
+            EXPECT_TRUE(QRectF(0, 0, board.workAreaW(), board.contentHeight()).contains(box)) << i;
             for (int j = 0; j < i; ++j)
                 EXPECT_FALSE(box.intersects(rect(j))) << i << " overlaps " << j;
             rows.append(i);
         }
         std::sort(rows.begin(), rows.end(), [this](int a, int b) {
-            const QRectF left = rect(a);
-            const QRectF right = rect(b);
-            return left.top() != right.top() ? left.top() < right.top()
-                                             : left.left() < right.left();
+            return rect(a).top() != rect(b).top() ? rect(a).top() < rect(b).top()
+                                                  : rect(a).left() < rect(b).left();
         });
         QStringList reading;
         for (const int i : rows)
@@ -73,16 +68,12 @@ TEST_F(WordOrderBoardTest, ShowsThePhrasesWordsShuffledAndAOneWordPhraseRightAtO
 {
     QRandomGenerator random(7);
     board.setPhrase(u"Ich hätte gern einen Kaffee, bitte."_s, random);
-    QStringList words{u"Ich"_s, u"hätte"_s, u"gern"_s, u"einen"_s, u"Kaffee"_s, u"bitte"_s};
+    const QStringList words{u"Ich"_s, u"hätte"_s, u"gern"_s, u"einen"_s, u"Kaffee"_s, u"bitte"_s};
     EXPECT_EQ(board.standardOrderedWords(), words);
     EXPECT_EQ(board.expectedText(), u"Ich hätte gern einen Kaffee bitte"_s);
     EXPECT_NE(board.randomOrderedWords(), words) << "one draw in 720 leaves them in order";
     EXPECT_EQ(board.testOrderedWords(), board.randomOrderedWords());
     EXPECT_FALSE(board.isAnswerRight());
-    QStringList shown = board.testOrderedWords();
-    shown.sort();
-    words.sort();
-    EXPECT_EQ(shown, words);
     expectTidy();
 
     // Centred both ways; a drop anywhere puts it back.
@@ -98,10 +89,6 @@ TEST_F(WordOrderBoardTest, ShowsThePhrasesWordsShuffledAndAOneWordPhraseRightAtO
     board.setWords({u"Die"_s, u"Katze"_s, u"sieht"_s, u"die"_s, u"Maus"_s},
                    {u"die"_s, u"Katze"_s, u"sieht"_s, u"Die"_s, u"Maus"_s});
     EXPECT_TRUE(board.isAnswerRight());
-
-    board.clear();
-    EXPECT_EQ(board.rowCount(), 0);
-    EXPECT_TRUE(board.answerText().isEmpty());
 }
 
 TEST_F(WordOrderBoardTest, MovesPastTheEndsOrOfNoLabelOrToNowhereChangeNothing)
@@ -116,23 +103,6 @@ TEST_F(WordOrderBoardTest, MovesPastTheEndsOrOfNoLabelOrToNowhereChangeNothing)
     board.dropWord(1, std::numeric_limits<double>::quiet_NaN(), 0);
     board.dropWord(1, 0, std::numeric_limits<double>::infinity());
     EXPECT_EQ(board.answerText(), u"Tag Guten"_s);
-}
-
-TEST_F(WordOrderBoardTest, ADropAtAnotherLabelsXKeepsTheEarlierOrder)
-{
-    board.setWords({u"A"_s, u"B"_s, u"C"_s}, {u"A"_s, u"B"_s, u"C"_s});
-    QSignalSpy answers(&board, &WordOrderBoard::testOrderedWordsChanged);
-    const double bx = rect(row(u"B"_s)).x();
-    dropAt(u"C"_s, bx);
-    dropAt(u"A"_s, bx);
-    EXPECT_EQ(board.answerText(), u"A B C"_s);
-    EXPECT_EQ(answers.count(), 0);
-    dropAt(u"A"_s, bx + 0.5);
-    EXPECT_EQ(board.answerText(), u"B A C"_s);
-    // Dropped far above the row, a label still joins it by its x.
-    board.dropWord(row(u"C"_s), 0, -400);
-    EXPECT_EQ(board.answerText(), u"C B A"_s);
-    expectTidy();
 }
 
 TEST_F(WordOrderBoardTest, ALongPhraseWrapsAndScrollsAndDropsAnywhereKeepItTidy)
@@ -160,8 +130,20 @@ TEST_F(WordOrderBoardTest, ALongPhraseWrapsAndScrollsAndDropsAnywhereKeepItTidy)
     EXPECT_DOUBLE_EQ(rect(0).width(), 200 - 2 * board.padding());
 }
 
-TEST_F(WordOrderBoardTest, ADropOnAnotherRowJoinsThatRow)
+TEST_F(WordOrderBoardTest, ADropJoinsTheRowItIsNearestAndAnEqualXKeepsTheEarlierOrder)
 {
+    board.setWords({u"A"_s, u"B"_s, u"C"_s}, {u"A"_s, u"B"_s, u"C"_s});
+    QSignalSpy answers(&board, &WordOrderBoard::testOrderedWordsChanged);
+    const double bx = rect(row(u"B"_s)).x();
+    dropAt(u"C"_s, bx);
+    dropAt(u"A"_s, bx);
+    EXPECT_EQ(board.answerText(), u"A B C"_s);
+    EXPECT_EQ(answers.count(), 0);
+    dropAt(u"A"_s, bx + 0.5);
+    EXPECT_EQ(board.answerText(), u"B A C"_s);
+    board.dropWord(row(u"C"_s), 0, -400); // far above the only row
+    EXPECT_EQ(board.answerText(), u"C B A"_s);
+
     board.setWorkAreaW(150);
     board.setMinWordLblW(60);
     board.setPadding(10);
@@ -170,7 +152,6 @@ TEST_F(WordOrderBoardTest, ADropOnAnotherRowJoinsThatRow)
     board.setWords(words, words);
     EXPECT_DOUBLE_EQ(rect(row(u"b"_s)).left(), rect(row(u"a"_s)).right() + 10);
     EXPECT_DOUBLE_EQ(rect(row(u"c"_s)).top(), rect(row(u"a"_s)).top() + 30 + 10);
-
     // "f" held just left of "c", its top nearer the middle row than the others.
     board.dropWord(row(u"f"_s), rect(row(u"c"_s)).x() - 1, rect(row(u"c"_s)).y() + 14);
     EXPECT_EQ(board.answerText(), u"a b f c d e"_s);

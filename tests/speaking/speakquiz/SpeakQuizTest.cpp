@@ -43,8 +43,6 @@ protected:
         });
     }
     ~SpeakQuizTest() override { setDefaultAudioInputFactory({}); }
-    SpeakQuizTest(const SpeakQuizTest &) = delete;
-    SpeakQuizTest &operator=(const SpeakQuizTest &) = delete;
 
     void speak(const QString &file)
     {
@@ -59,18 +57,15 @@ protected:
 
     [[nodiscard]] bool popup(const char *state = "visible") const
     {
-        return app.currentPage()
-            ->findChild<QObject *>(u"comparisonPopup"_s)
-            ->property(state)
-            .toBool();
+        const QObject *popUp = app.currentPage()->findChild<QObject *>(u"comparisonPopup"_s);
+        return popUp->property(state).toBool();
     }
 
     /// The mouse pressed on (or released from) the middle of the button.
     void hold(bool down, const QString &button = u"microphoneButton"_s) const
     {
         QQuickItem *found = item(button);
-        const QPoint centre =
-            found->mapToScene(QPointF(found->width() / 2, found->height() / 2)).toPoint();
+        const QPoint centre = found->mapToScene(found->boundingRect().center()).toPoint();
         if (down)
             QTest::mousePress(app.window(), Qt::LeftButton, Qt::NoModifier, centre);
         else
@@ -103,8 +98,8 @@ protected:
 
 TEST(PhraseRecordingLevel, MapsDecibelsOntoTheMeter)
 {
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const QList<float> powers{VoAudioRecorder::silencePower, -60.0F, -30.0F, 0.0F, 6.0F, nan};
+    const QList<float> powers{VoAudioRecorder::silencePower,          -60.0F, -30.0F, 0.0F, 6.0F,
+                              std::numeric_limits<float>::quiet_NaN()};
     const QList<qreal> levels{0.0, 0.0, 0.5, 1.0, 1.0, 0.0};
     for (qsizetype i = 0; i < powers.size(); ++i)
         EXPECT_DOUBLE_EQ(PhraseRecording::levelFromPower(powers[i]), levels[i]) << powers[i];
@@ -112,8 +107,7 @@ TEST(PhraseRecordingLevel, MapsDecibelsOntoTheMeter)
 
 TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
 {
-    // A slow build must not run out of time while it recognises.
-    Preferences::instance().setTestDuration(600.0F);
+    Preferences::instance().setTestDuration(600.0F); // no time-out while a slow build recognises
     const qint64 quizzes = userInfoInt(UserInfoKey::quizCount);
     const qint64 total = userInfoInt(UserInfoKey::quizTotalScore);
     app.tapCentre(findItem(app.currentPage(), u"quizzesButton"_s));
@@ -131,8 +125,7 @@ TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
     EXPECT_EQ(item(u"scoreLbl"_s)->opacity(), 0.0) << "this quiz shows progress only";
     EXPECT_FALSE(item(u"levelMeter"_s)->isVisible());
 
-    // Held with the mouse while the phrase's own recording is heard. The recorder's own poll may
-    // take the last peak before the test's: what counts is that the meter moved meanwhile.
+    // Held with the mouse while the phrase's own recording is heard: the meter moves meanwhile.
     speak(modelVoice(0));
     qreal loudest = 0.0;
     const QMetaObject::Connection meter =
@@ -150,18 +143,15 @@ TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
     hold(false);
     SpectrumCompView *first = quiz->spectrumCompView();
     ASSERT_NE(first, nullptr);
-    EXPECT_EQ(first->estimatedAudioFilePath(),
-              AppPaths::recordFolder() + quiz->phraseInfos().at(0)->id + u".caf"_s);
     // Submit waits for the mark, on screen and in the controller.
     EXPECT_FALSE(item(u"submitBtn"_s)->isEnabled());
     quiz->submitAction();
     EXPECT_EQ(quiz->currIndex(), 0);
     ASSERT_TRUE(QTest::qWaitFor([&] { return popup(); }));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return first->scored(); }, 120000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return first->scored() && !first->busy(); }, 120000));
     EXPECT_GE(first->score(), 7) << "the model's own voice, heard whole through the recorder";
     EXPECT_EQ(quiz->currWordScore(), first->score());
     EXPECT_TRUE(item(u"submitBtn"_s)->isEnabled());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !first->busy(); }, 120000));
     EXPECT_FALSE(app.screenshot(u"speak-quiz-comparison"_s).isNull());
     closePopup();
     app.tapCentre(item(u"submitBtn"_s));
@@ -181,7 +171,7 @@ TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
     ASSERT_NE(quiz->spectrumCompView(), nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return quiz->spectrumCompView()->scored(); }, 120000));
     EXPECT_EQ(heard, 2) << "one recording for the whole hold";
-    EXPECT_GT(quiz->currWordScore(), 0);
+    EXPECT_GE(quiz->currWordScore(), 7) << "another phrase, on its own model";
     closePopup();
     // An attempt that cannot record still replaces that mark.
     speak(missing);

@@ -22,7 +22,7 @@ void set(AudioPowerSpectrumInfo &spectrum, uint64_t frame, int bin, double value
 
 } // namespace
 
-TEST(SpectrumImage, OneColumnPerFrameLouderDarkerBinZeroAtTheBottom)
+TEST(SpectrumImage, OneColumnPerFrameLouderDarkerSilenceWhite)
 {
     // With a maximum of 255 each value is its own step below white, so the greys are exact.
     AudioPowerSpectrumInfo spectrum = spectrumOf(3, 255.0);
@@ -36,10 +36,7 @@ TEST(SpectrumImage, OneColumnPerFrameLouderDarkerBinZeroAtTheBottom)
     EXPECT_EQ(qGray(image.pixel(1, 0)), 240);
     EXPECT_EQ(qGray(image.pixel(2, 127 - 5)), 255);
     EXPECT_EQ(qGray(image.pixel(1, 127)), 255);
-}
 
-TEST(SpectrumImage, SilenceIsWhiteAndNoFramesGiveNoPicture)
-{
     const QImage silence = spectrumImage(spectrumOf(4, 0.0));
     ASSERT_EQ(silence.width(), 4);
     for (int y = 0; y < silence.height(); ++y)

@@ -1,17 +1,13 @@
+#include "content/VoFileUtil.h"
+#include "speech/SpeechTestSupport.h"
 #include "tools/CliRunner.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <cmath>
 
 namespace {
-
-const QString gutenMorgenVoice()
-{
-    return TestPaths::course() + u"/1/voices/101.mp3"_s;
-}
 
 CliRun assess(const QStringList &more)
 {
@@ -32,24 +28,19 @@ TEST(AssessCommand, PrintsWordsScoreMarkAndAdviceAsTextAndJson)
     EXPECT_TRUE(lines[1].startsWith(u"word <s> frames 0-"_s)) << lines[1].toStdString();
     EXPECT_EQ(lines.filter(QRegularExpression(u"^word (GUTEN|MORGEN) frames "_s)).size(), 2);
     const QStringList scoreLines = lines.filter(QRegularExpression(u"^score: [0-9.]+$"_s));
+    const QStringList markLines = lines.filter(QRegularExpression(u"^mark: [0-9]+/10$"_s));
     ASSERT_EQ(scoreLines.size(), 1);
-    EXPECT_EQ(lines.filter(QRegularExpression(u"^mark: [0-9]+/10$"_s)).size(), 1);
+    ASSERT_EQ(markLines.size(), 1);
     EXPECT_EQ(lines.filter(u"advice words_score: GUTEN:"_s).size(), 1);
 
     const CliRun run = assess({u"--json"_s});
-    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-    ASSERT_EQ(run.outLines().size(), 1);
-    QJsonParseError error{};
-    const QJsonObject json = QJsonDocument::fromJson(run.out.toUtf8(), &error).object();
-    ASSERT_EQ(error.error, QJsonParseError::NoError) << run.out.toStdString();
+    ASSERT_EQ(run.outLines().size(), 1) << run.err.toStdString();
+    const QJsonObject json = QJsonDocument::fromJson(run.out.toUtf8()).object();
     EXPECT_EQ(json.value(u"hypothesis"_s).toString(), u"GUTEN MORGEN"_s);
-    const double score = json.value(u"score"_s).toDouble(-1.0);
-    EXPECT_GT(score, 0.0);
-    EXPECT_LE(score, 100.0);
     // The decoder's dither is seeded the same in every process.
-    EXPECT_EQ(scoreLines.first().mid(7).toDouble(), score);
-    // The check heard both words: the mark is at least the recogniser's.
-    EXPECT_GE(json.value(u"mark"_s).toInt(-1), static_cast<int>(std::floor(score / 10.0)));
+    EXPECT_GT(json.value(u"score"_s).toDouble(-1.0), 0.0);
+    EXPECT_EQ(scoreLines.first().mid(7).toDouble(), json.value(u"score"_s).toDouble());
+    EXPECT_EQ(markLines.first().mid(6).section(u'/', 0, 0).toInt(), json.value(u"mark"_s).toInt());
     const QJsonObject check = json.value(u"verification"_s).toObject();
     EXPECT_TRUE(check.value(u"checked"_s).toBool());
     const QJsonArray words = check.value(u"words"_s).toArray();
@@ -63,17 +54,13 @@ TEST(SpeechCommands, BadRecordingsFailWithOneLine)
 {
     const QTemporaryDir folder;
     const QString missing = folder.filePath(u"missing.wav"_s);
+    const QString damaged = folder.filePath(u"damaged.wav"_s);
+    const QString png = folder.filePath(u"out.png"_s);
+    ASSERT_TRUE(VoFileUtil::writeFileAtomically(damaged, "no sound in here at all"));
     expectOneLineFailure(runCli({u"assess"_s, u"--text"_s, u"Guten Morgen!"_s, missing}),
                          u"missing.wav"_s);
-    const QString png = folder.filePath(u"out.png"_s);
     expectOneLineFailure(runCli({u"spectrum"_s, missing, u"--png"_s, png}), u"missing.wav"_s);
-
-    QFile damaged(folder.filePath(u"damaged.wav"_s));
-    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
-    damaged.write("no sound in here at all");
-    damaged.close();
-    expectOneLineFailure(runCli({u"spectrum"_s, damaged.fileName(), u"--png"_s, png}),
-                         u"damaged.wav"_s);
+    expectOneLineFailure(runCli({u"spectrum"_s, damaged, u"--png"_s, png}), u"damaged.wav"_s);
     EXPECT_FALSE(QFile::exists(png));
 }
 
@@ -83,10 +70,8 @@ TEST(LmCommand, WritesTheDecodersTwoFiles)
     const CliRun run = runCli({u"lm"_s, u"--name"_s, u"greeting"_s, u"--out"_s, folder.path(),
                                u"--hmm"_s, TestPaths::acousticModel(), u"GUTEN"_s, u"MORGEN"_s});
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-    EXPECT_EQ(run.outLines(), QStringList({folder.filePath(u"greeting.DMP"_s),
-                                           folder.filePath(u"greeting.dic"_s)}));
-    EXPECT_GT(QFileInfo(folder.filePath(u"greeting.DMP"_s)).size(), 0);
-    QFile dictionary(folder.filePath(u"greeting.dic"_s));
-    ASSERT_TRUE(dictionary.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(dictionary.readAll().startsWith("GUTEN\t"));
+    const QStringList files{folder.filePath(u"greeting.DMP"_s), folder.filePath(u"greeting.dic"_s)};
+    EXPECT_EQ(run.outLines(), files);
+    for (const QString &file : files)
+        EXPECT_GT(QFileInfo(file).size(), 0) << file.toStdString();
 }

@@ -62,11 +62,8 @@ TEST(PhraseScore, Cases)
         double score;
         QVariantMap advices; ///< not compared when empty
     } cases[] = {
-        {{wordResult(u"<s>"_s, 1.0), wordResult(u"guten"_s, 0.8), wordResult(u"morgen"_s, 0.6),
-          wordResult(u"</s>"_s, 1.0)},
-         u"Guten Morgen."_s,
-         91.0,
-         wordsScore(u"GUTEN:80;MORGEN:60"_s)},
+        {said({{"<s>", 100}, {"guten", 80}, {"morgen", 60}, {"</s>", 100}}), u"Guten Morgen."_s,
+         91.0, wordsScore(u"GUTEN:80;MORGEN:60"_s)},
         // 0.6f x 100 in single precision is 60.000004, and the text keeps the float's digits.
         {{wordResult(u"GUTEN"_s, 0.8f), wordResult(u"MORGEN"_s, 0.6f)},
          u"Guten Morgen."_s,
@@ -108,10 +105,7 @@ TEST(PhraseScore, Cases)
          wordsScore(u"DANKE:80;DANKE:80"_s)},
         {{wordResult(u"hello(2)"_s, 1.0)}, u"Hello!"_s, 100.0, wordsScore(u"HELLO:100"_s)},
         {{}, u"Hallo"_s, 0.0, noVoice},
-        {{wordResult(u"<s>"_s, 1.0), wordResult(u"<sil>"_s, 0.9), wordResult(u"</s>"_s, 1.0)},
-         u"Hallo"_s,
-         0.0,
-         noVoice},
+        {said({{"<s>", 100}, {"<sil>", 90}, {"</s>", 100}}), u"Hallo"_s, 0.0, noVoice},
         {said({{"hallo", 90}}), u"Guten Morgen"_s, 0.0, noRightWord},
         // A cut before "(" at 0 leaves an empty word.
         {said({{"(2)", 90}, {"", 90}}), u"Guten Morgen"_s, 0.0, noRightWord},
@@ -147,8 +141,6 @@ TEST(PhraseScore, WordScoreIsThePosteriorTimes100)
     };
     EXPECT_EQ(withPosterior(0.875f), 87.5f);
     EXPECT_EQ(withPosterior(1), 100.0f);
-    EXPECT_EQ(withPosterior(0.6f), 0.6f * 100.0f);
-    EXPECT_EQ(withPosterior(0.6), 60.0f);
     // Anything but a number counts as a posterior of 0.
     for (const QVariant &notANumber : {QVariant(u"0.5"_s), QVariant(true), QVariant()})
         EXPECT_EQ(withPosterior(notANumber), 0.0f);
@@ -165,4 +157,30 @@ TEST(PhraseScore, LongWordListsScore)
     EXPECT_GE(score, 0.0f);
     EXPECT_LE(score, 100.0f);
     EXPECT_EQ(advices.value(u"words_score"_s).toString().count(u';'), 40'000 - 1);
+}
+
+TEST(PhraseWords, AsciiRunsFollowedByASeparator)
+{
+    const struct {
+        QString text;
+        bool upper;
+        QStringList words;
+    } cases[] = {
+        {u"Wie geht's?"_s, false, {u"Wie"_s, u"geht's"_s}},
+        {u"Wie geht's?"_s, true, {u"WIE"_s, u"GEHT'S"_s}},
+        // The last word needs no separator of its own.
+        {u"guten Tag"_s, true, {u"GUTEN"_s, u"TAG"_s}},
+        // A digit or a hyphen ends a run; only a run that a separator follows is a word.
+        {u"um 3Uhr, U-Bahn!"_s, true, {u"UM"_s, u"UHR"_s, u"BAHN"_s}},
+        // Only the ASCII tail after the last other letter counts.
+        {u"Müller "_s, false, {u"ller"_s}},
+        {u"Grüß Gott"_s, true, {u"GOTT"_s}},
+        {u"?!., "_s, true, {}},
+        {u"Привет, мир!"_s, true, {}},
+        {u"(Hallo)"_s, true, {}},
+        {u"12 34."_s, true, {}},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(VoPSRecognizer::getAllWordFromText(c.text, c.upper), c.words)
+            << qUtf8Printable(c.text);
 }

@@ -1,10 +1,9 @@
 #include "speech/verify/ReadingVerifier.h"
 
-#include "audio/VoAudioUtil.h"
 #include "content/AppCommon.h"
 #include "speech/PhraseAssessment.h"
+#include "speech/SpeechTestSupport.h"
 #include "speech/verify/SoundSpelling.h"
-#include "support/TestPaths.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -59,9 +58,8 @@ TEST(ReadingVerifier, JudgesItsOwnPhraseAlikeEveryTimeAndTellsAnotherPhraseApart
 
     // Judged again by a verifier of its own, the reading gets the same verdicts and goodness;
     // inside five seconds of silence each side, its frames move and its verdicts stay.
-    AudioDataInfo audio;
-    ASSERT_EQ(VoAudioUtil::decodeAudioDataFromFile(soundPath(rolls), audio), 0);
-    const std::vector<int16_t> reading = VoAudioUtil::getAudioDataShortForByte(audio);
+    const std::vector<int16_t> reading = decodedSamples(soundPath(rolls));
+    ASSERT_FALSE(reading.empty());
     std::vector<int16_t> padded(5 * 16000, 0);
     padded.insert(padded.end(), reading.begin(), reading.end());
     padded.resize(padded.size() + 5 * 16000, 0);

@@ -40,6 +40,12 @@ QString noticeFor(const RecordOpening &opening)
         return QCoreApplication::translate(
             "UserRecord", "Your progress file was damaged, so Tolvane went back to the copy it "
                           "kept. At most your last step is missing.");
+    case RecordOpening::Outcome::Repaired:
+        return QCoreApplication::translate(
+                   "UserRecord", "Your progress file was damaged, so Tolvane repaired it: "
+                                 "everything it could read is kept. The damaged file is kept "
+                                 "as %1.")
+            .arg(QFileInfo(opening.setAsidePath).fileName());
     case RecordOpening::Outcome::StartedFresh:
         return QCoreApplication::translate(
                    "UserRecord", "Your progress file was damaged and no good copy was left, so "

@@ -35,6 +35,23 @@ bool isWhole(const QVariantMap &record, const QVariantMap &fresh)
     return true;
 }
 
+/// What healing did, for the log; empty when there was nothing to heal.
+QString remedyOf(RecordOpening::Outcome outcome)
+{
+    switch (outcome) {
+    case RecordOpening::Outcome::RestoredPrevious:
+        return QStringLiteral("its previous copy took its place");
+    case RecordOpening::Outcome::Repaired:
+        return QStringLiteral("its readable counters were kept");
+    case RecordOpening::Outcome::StartedFresh:
+        return QStringLiteral("a fresh record took its place");
+    case RecordOpening::Outcome::Read:
+    case RecordOpening::Outcome::Created:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
 UserInfoFile::UserInfoFile()
@@ -100,15 +117,21 @@ RecordOpening UserInfoFile::open(const QVariantMap &fresh) const
         isWhole(previous, fresh)) {
         opening.record = previous;
         opening.outcome = RecordOpening::Outcome::RestoredPrevious;
+    } else if (!current.isEmpty()) {
+        // Whatever counters could be read are the learner's; only the missing ones start at 0.
+        for (auto it = fresh.cbegin(); it != fresh.cend(); ++it) {
+            bool isInteger = false;
+            const qint64 value = current.value(it.key()).toLongLong(&isInteger);
+            if (isInteger)
+                opening.record.insert(it.key(), value);
+        }
+        opening.outcome = RecordOpening::Outcome::Repaired;
     } else if (present || hadPrevious) {
         opening.outcome = RecordOpening::Outcome::StartedFresh;
     }
-    if (opening.outcome != RecordOpening::Outcome::Created)
+    if (const QString remedy = remedyOf(opening.outcome); !remedy.isEmpty())
         VoLog::write(lcContent(), VoLog::Error,
-                     QStringLiteral("the user record %1 was damaged; %2")
-                         .arg(m_path, opening.outcome == RecordOpening::Outcome::RestoredPrevious
-                                          ? QStringLiteral("its previous copy took its place")
-                                          : QStringLiteral("a fresh record took its place")));
+                     QStringLiteral("the user record %1 was damaged; %2").arg(m_path, remedy));
     if (!write(opening.record))
         VoLog::write(lcContent(), VoLog::Error,
                      QStringLiteral("cannot write the user record %1").arg(m_path));

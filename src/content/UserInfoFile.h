@@ -14,7 +14,8 @@ struct RecordOpening {
         Read,             ///< the record was whole
         Created,          ///< there was none: a first start
         RestoredPrevious, ///< the record was damaged; the copy kept by the last write took over
-        StartedFresh,     ///< the record was damaged and no good copy was left
+        Repaired,     ///< a key was missing and no good copy was left: the counters read are kept
+        StartedFresh, ///< the record could not be read and no good copy was left
     };
     QVariantMap record;
     Outcome outcome{Outcome::Read};
@@ -47,8 +48,9 @@ public:
 
     /// Reads the record and heals it when it cannot be read, deciphered or parsed or lacks one of
     /// the keys of `fresh` (the record of a first start): the previous copy takes its place, or,
-    /// when that is no better, `fresh` does. A damaged file is moved aside under a dated name,
-    /// never deleted. Whatever it returns is on disk as the record.
+    /// when that is no better, `fresh` with every counter the damaged record still holds. A
+    /// damaged file is moved aside under a dated name, never deleted. Whatever it returns is on
+    /// disk as the record.
     [[nodiscard]] RecordOpening open(const QVariantMap &fresh) const;
 
     // A missing key, a value that is not an integer and an overflow are fatal.

@@ -58,11 +58,12 @@ inline CliRun runCli(const QStringList &arguments)
     return run;
 }
 
-/// Checks the failure shape every command shares: a non-zero exit, nothing on stdout and one
-/// line on stderr that names what was wrong.
-inline void expectOneLineFailure(const CliRun &run, const QString &mentioned)
+/// Checks the failure shape every command shares: the documented status (1 wrong usage, 2 bad
+/// input, 3 a failure of the machine), nothing on stdout and one line on stderr that names what
+/// was wrong.
+inline void expectOneLineFailure(const CliRun &run, const QString &mentioned, int status = 2)
 {
-    EXPECT_GT(run.exitCode, 0) << "the tool must fail, not succeed or crash";
+    EXPECT_EQ(run.exitCode, status) << "the tool must fail with its documented status";
     EXPECT_TRUE(run.out.isEmpty()) << run.out.toStdString();
     const QStringList lines = run.errLines();
     ASSERT_EQ(lines.size(), 1) << run.err.toStdString();

@@ -43,7 +43,7 @@ TEST(ContentList, BadInputFailsWithOneLine)
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir(u"photos"_s));
     expectOneLineFailure(listCourse({u"--category"_s, u"999"_s}), u"999"_s);
-    expectOneLineFailure(listCourse({u"--lang"_s, u"xx"_s}), u"xx"_s);
+    expectOneLineFailure(listCourse({u"--lang"_s, u"xx"_s}), u"xx"_s, 1);
     const QString missing = folder.filePath(u"missing"_s);
     expectOneLineFailure(runCli({u"content"_s, u"list"_s, u"--resources"_s, missing}), missing);
     // A folder that is no course is bad input here, not a reason to abort.

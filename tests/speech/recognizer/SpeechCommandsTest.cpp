@@ -74,4 +74,10 @@ TEST(LmCommand, WritesTheDecodersTwoFiles)
     EXPECT_EQ(run.outLines(), files);
     for (const QString &file : files)
         EXPECT_GT(QFileInfo(file).size(), 0) << file.toStdString();
+
+    // A folder that cannot be made is the machine's failure, not the input's.
+    const QString blocked = folder.filePath(u"greeting.dic"_s) + u"/lm"_s;
+    const CliRun refused = runCli({u"lm"_s, u"--name"_s, u"greeting"_s, u"--out"_s, blocked,
+                                   u"--hmm"_s, TestPaths::acousticModel(), u"GUTEN"_s});
+    expectOneLineFailure(refused, blocked, 3);
 }

@@ -20,9 +20,7 @@ void BM_IncrementUserRecordCounter(benchmark::State &state)
             record.add({{UserInfoKey::listenCount, 1}});
             ++increments;
         }
-        state.PauseTiming();
         record.flush();
-        state.ResumeTiming();
     }
     if (file.intValue(UserInfoKey::listenCount) != increments)
         state.SkipWithError("the record lost increments");

@@ -31,10 +31,10 @@ std::optional<VerificationDecoder> VerificationDecoder::create(const QString &ac
     // the recogniser's: a phrase whose sounds are not in the recording loses every path, which
     // is itself the clearest verdict. Every phone is a word here, so the word-exit beam is as
     // wide as the others: narrower, it lost the paths of some readings of their own phrase.
-    const sphinx::ConfigPtr config(cmd_ln_init(nullptr, ps_args(), TRUE, "-hmm", hmm.constData(),
-                                               "-dict", dict.constData(), "-remove_silence", "no",
-                                               "-dither", "no", "-bestpath", "no", "-beam", "1e-80",
-                                               "-pbeam", "1e-80", "-wbeam", "1e-80", nullptr));
+    const sphinx::ConfigPtr config(
+        cmd_ln_init(nullptr, ps_args(), TRUE, "-hmm", hmm.constData(), "-dict", dict.constData(),
+                    "-remove_silence", "no", "-remove_noise", "no", "-dither", "no", "-bestpath",
+                    "no", "-beam", "1e-80", "-pbeam", "1e-80", "-wbeam", "1e-80", nullptr));
     if (!config) {
         VoLog::write(lcSpeech(), VoLog::Error,
                      QStringLiteral("the checking decoder's options do not parse"));

@@ -29,9 +29,12 @@ struct AlignedSegment {
  * cannot be set against an alignment's; two searches of one kind can, frame by frame.
  *
  * Made once and kept for every reading, whatever its phrase: loading the acoustic model is most
- * of a decoder's start, and the phrase's phones are words added to it as they come. Its front end has no dither (the caller adds its own, so that runs on
- * several threads stay independent of the library's one shared random generator) and batch
- * normalisation, so both searches see the same features whatever ran before.
+ * of a decoder's start, and the phrase's phones are words added to it as they come. Its front
+ * end has no dither (the caller adds its own, so that runs on several threads stay independent
+ * of the library's one shared random generator), batch normalisation and no noise removal (whose
+ * noise estimate would carry over from one reading to the next and judge a decoder's first
+ * reading apart from its later ones), so both searches see the same features whatever ran
+ * before.
  */
 class VerificationDecoder {
 public:

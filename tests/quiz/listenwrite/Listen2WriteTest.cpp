@@ -29,6 +29,7 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     auto *quiz = pushQuiz<Listen2WriteVC>(u"Listen2WritePage.qml"_s, u"categoryId: \"1\""_s);
     ASSERT_NE(quiz, nullptr);
     EXPECT_EQ(text(u"toolBarTitle"_s), u"Listen And Write"_s);
+    EXPECT_TRUE(players.requested.isEmpty()) << "the phrase comes after a delay";
     QQuickItem *field = item(u"textField"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return field->hasActiveFocus(); }))
         << "the field takes the keyboard at once";
@@ -40,9 +41,8 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     ASSERT_NE(players.last, nullptr);
     EXPECT_TRUE(players.last->isPlaying());
 
-    // Right: in capitals with Return, as written with Submit. Wrong: a full stop more or less,
-    // a blank more, a long paste. The rest empty, one after a tap beside the
-    // controls put the keyboard away.
+    // Right: in capitals, and as written. Wrong: a full stop more or less, a blank more, a long
+    // paste. The rest empty, one after a tap beside the controls put the keyboard away.
     QStringList typed;
     for (int i = 0; i < 10; ++i) {
         ASSERT_EQ(quiz->currIndex(), i);
@@ -86,13 +86,10 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     EXPECT_FALSE(item(u"submitBtn"_s)->isVisible());
     expectOneQuizRecorded(20);
 
-    QQuickItem *table = item(u"resultTable"_s);
-    ASSERT_TRUE(table->isVisible());
+    ASSERT_TRUE(item(u"resultTable"_s)->isVisible());
     for (int i = 0; i < 6; ++i)
         expectAnswer(i, i < 5 ? typed.at(i) : u"-"_s, i < 2);
     (void)app.screenshot(u"listen-write-results"_s);
-    app.tapCentre(AppWindow::listRow(table, 1));
-    EXPECT_EQ(players.requested.constLast(), soundPath(*quiz->phraseInfos().at(1)));
     QTest::keyClick(app.window(), Qt::Key_Escape);
     ASSERT_TRUE(app.waitForDepth(1));
     leaveHalfWay<Listen2WriteVC>(u"Listen2WritePage.qml"_s);

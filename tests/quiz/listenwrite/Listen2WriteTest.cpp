@@ -11,16 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Listen2WriteUiTest : public QuizCourseUiTest {
-protected:
-    // Key by key, as a keyboard that can write any letter would.
-    void type(const QString &text) const
-    {
-        for (const QChar c : text)
-            QTest::sendKeyEvent(QTest::Click, app.window(), Qt::Key_unknown, QString(c),
-                                Qt::NoModifier);
-    }
-};
+using Listen2WriteUiTest = QuizCourseUiTest;
+
+// Key by key, as a keyboard that can write any letter would.
+void type(QWindow *window, const QString &text)
+{
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(c), Qt::NoModifier);
+}
 
 } // namespace
 
@@ -38,8 +36,7 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     app.tapCentre(item(u"loudspeakerButton"_s));
     EXPECT_EQ(players.requested.size(), 2);
     EXPECT_TRUE(field->hasActiveFocus());
-    ASSERT_NE(players.last, nullptr);
-    EXPECT_TRUE(players.last->isPlaying());
+    ASSERT_TRUE(players.last && players.last->isPlaying());
 
     // Right: in capitals, and as written. Wrong: a full stop more or less, a blank more, a long
     // paste. The rest empty, one after a tap beside the controls put the keyboard away.
@@ -57,7 +54,7 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
             QGuiApplication::clipboard()->setText(typed.constLast());
             QTest::keyClick(app.window(), Qt::Key_V, Qt::ControlModifier);
         } else {
-            type(typed.constLast());
+            type(app.window(), typed.constLast());
         }
         EXPECT_EQ(field->property("text").toString(), typed.constLast());
         if (i == 0)
@@ -71,9 +68,7 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
             }
             QTest::keyClick(app.window(), Qt::Key_Return);
         }
-        if (i == 0) {
-            EXPECT_FALSE(players.last->isPlaying()) << "submitting silences the phrase";
-        }
+        EXPECT_TRUE(i > 0 || !players.last->isPlaying()) << "submitting silences the phrase";
         if (i < 9) {
             EXPECT_TRUE(field->property("text").toString().isEmpty());
             EXPECT_TRUE(field->hasActiveFocus()) << "the field keeps the keyboard";

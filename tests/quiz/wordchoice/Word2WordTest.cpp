@@ -12,7 +12,6 @@ namespace {
 using Word2WordTest = QuizTest;
 using Word2WordUiTest = QuizCourseUiTest;
 
-// The English of a phrase of QuizCourse's category "1".
 QString english(const PhraseInfo &phrase)
 {
     return u"Sentence %1"_s.arg(phrase.id.toInt() - 100);
@@ -20,8 +19,7 @@ QString english(const PhraseInfo &phrase)
 
 } // namespace
 
-// Whatever the buttons show, an answer is right when its German text is the question's but
-// for case: another spelling of "Guten Tag" is right, another phrase translated "Fine" is not.
+// Another spelling of "Guten Tag" is right, another phrase translated "Fine" is not.
 TEST_F(Word2WordTest, JudgesByTheGermanTextInBothDirections)
 {
     const QStringList fine{u"Ja"_s, u"Gut"_s, u"Schön"_s, u"Prima"_s};
@@ -103,7 +101,6 @@ TEST_F(Word2WordUiTest, PlaysASessionInEachDirectionThenTheQuestionScrollsWhenCr
 
         ASSERT_TRUE(item(u"resultTable"_s)->isVisible());
         const PhraseInfo &first = *quiz->phraseInfos().at(0);
-        // The answer reads in the language it was offered in.
         expectAnswer(0, foreign2Mother ? english(first) : first.content, true);
         if (!foreign2Mother)
             (void)app.screenshot(u"word-choice-results"_s);

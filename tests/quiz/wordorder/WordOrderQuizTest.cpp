@@ -24,7 +24,6 @@ protected:
         return label->mapRectToScene(QRectF(0, 0, label->width(), label->height()));
     }
 
-    // The word labels in reading order: row by row, left to right.
     [[nodiscard]] QList<QQuickItem *> labels() const
     {
         QList<QQuickItem *> found = findItems(app.window()->contentItem(), u"wordLabel"_s);
@@ -36,7 +35,6 @@ protected:
         return found;
     }
 
-    // Presses the label's centre and moves it in steps until its left edge is at x.
     void dragTo(const QQuickItem *label, double x) const
     {
         const QPoint press = sceneRect(label).center().toPoint();
@@ -71,7 +69,6 @@ TEST_F(WordOrderQuizTest, AFullStopIsNoWordToPlace)
     }
     ASSERT_TRUE(fullStop) << "the draw must ask the phrase with the full stop";
     EXPECT_EQ(userInfoInt(UserInfoKey::quizTotalScore), 100);
-    EXPECT_EQ(board.rowCount(), 0);
 }
 
 TEST_F(WordOrderQuizUiTest, PlaysASessionByMouseAndKeysThenALongPhraseWrapsInTheArea)
@@ -122,7 +119,8 @@ TEST_F(WordOrderQuizUiTest, PlaysASessionByMouseAndKeysThenALongPhraseWrapsInThe
     leaveHalfWay<WordOrderAdjustVC>(u"WordOrderAdjustPage.qml"_s);
     expectOneQuizRecorded(90);
 
-    // The work area alone, with a phrase too long for one row shown last word first.
+    // The work area alone, a phrase too long for one row shown last word first: the labels,
+    // read row by row, give the board's order.
     WordOrderBoard longBoard;
     const QStringList words =
         u"Entschuldigung können Sie mir bitte sagen wie ich zum Hauptbahnhof komme"_s.split(u' ');
@@ -134,7 +132,6 @@ TEST_F(WordOrderQuizUiTest, PlaysASessionByMouseAndKeysThenALongPhraseWrapsInThe
                                                      {u"height"_s, 200}});
     ASSERT_NE(view, nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return longBoard.workAreaW() > 0; }));
-    // Read row by row, left to right, the labels give the board's order, on more than one row.
     const QList<QQuickItem *> shown = labels();
     ASSERT_EQ(shown.size(), words.size());
     QStringList reading;

@@ -10,7 +10,6 @@ TEST(WordSplitter, BlanksAndSentencePunctuationEndWords)
     const std::pair<QString, QStringList> cases[] = {
         {u"Wie geht's?"_s, {u"Wie"_s, u"geht's"_s}},
         {u"Ja...nein,danke"_s, {u"Ja"_s, u"nein"_s, u"danke"_s}},
-        {u"z. B."_s, {u"z"_s, u"B"_s}},
         {u"  Hallo\tdu\nda  "_s, {u"Hallo"_s, u"du"_s, u"da"_s}},
         {u"Guten\u00a0Tag!"_s, {u"Guten"_s, u"Tag"_s}},
         {u"你好、世界。再见"_s, {u"你好"_s, u"世界"_s, u"再见"_s}},

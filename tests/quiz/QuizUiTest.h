@@ -43,22 +43,17 @@ protected:
     }
 };
 
-/// Installs QuizCourse before the app opens a course, in English, with the usual minute.
-struct QuizCourseFirst {
-    QuizCourseFirst()
+/// QuizUiTest on QuizCourse, installed before the app opens a course, with a fresh record.
+class QuizCourseUiTest : public QuizUiTest {
+protected:
+    static void SetUpTestSuite()
     {
         QuizCourse::install();
         Preferences::instance().setLanguageType(QStringLiteral("en"));
         Preferences::instance().setTestDuration(Preferences::defaultTestDuration);
     }
-};
-
-/// QuizUiTest on QuizCourse with a fresh record.
-class QuizCourseUiTest : private QuizCourseFirst, public QuizUiTest {
-protected:
     void SetUp() override { ASSERT_TRUE(writeUserInfo(initialUserInfo())); }
 
-    /// One finished session is counted with its score, and no other counter moved.
     static void expectOneQuizRecorded(qint64 score)
     {
         for (const QString &key : initialUserInfo().keys()) {
@@ -69,7 +64,6 @@ protected:
         }
     }
 
-    /// The answer a result row shows, in the colour of its verdict.
     void expectAnswer(int row, const QString &answer, bool right) const
     {
         QQuickItem *label = findItem(AppWindow::listRow(item(QStringLiteral("resultTable")), row),
@@ -81,7 +75,6 @@ protected:
             << row;
     }
 
-    /// The score label of a finished session: its points in their band's colour.
     void expectScoreLabel(int points, const char *colour) const
     {
         EXPECT_EQ(text(QStringLiteral("scoreLbl")),

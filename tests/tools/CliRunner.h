@@ -24,7 +24,6 @@ struct CliRun {
         return result;
     }
     [[nodiscard]] QStringList outLines() const { return lines(out); }
-    [[nodiscard]] QStringList errLines() const { return lines(err); }
 };
 
 /// Runs the built tolvane-cli with the arguments and waits for it to end.
@@ -40,11 +39,6 @@ inline CliRun runCli(const QStringList &arguments)
     process.setProcessEnvironment(environment);
     process.start(TestPaths::cli(), arguments);
     CliRun run;
-    if (!process.waitForStarted()) {
-        ADD_FAILURE() << "cannot start " << TestPaths::cli().toStdString() << ": "
-                      << process.errorString().toStdString();
-        return run;
-    }
     if (!process.waitForFinished(120'000)) {
         ADD_FAILURE() << "tolvane-cli " << arguments.join(u' ').toStdString()
                       << " did not finish: " << process.errorString().toStdString();
@@ -65,7 +59,7 @@ inline void expectOneLineFailure(const CliRun &run, const QString &mentioned, in
 {
     EXPECT_EQ(run.exitCode, status) << "the tool must fail with its documented status";
     EXPECT_TRUE(run.out.isEmpty()) << run.out.toStdString();
-    const QStringList lines = run.errLines();
+    const QStringList lines = CliRun::lines(run.err);
     ASSERT_EQ(lines.size(), 1) << run.err.toStdString();
     EXPECT_TRUE(lines[0].startsWith(u"tolvane-cli: "_s)) << lines[0].toStdString();
     EXPECT_TRUE(lines[0].contains(mentioned))

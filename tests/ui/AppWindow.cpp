@@ -59,16 +59,6 @@ AppWindow::~AppWindow()
     (void)m_window->grabWindow();
 }
 
-QQuickItem *AppWindow::currentPage() const
-{
-    return m_stack->property("currentItem").value<QQuickItem *>();
-}
-
-int AppWindow::depth() const
-{
-    return m_stack->property("depth").toInt();
-}
-
 bool AppWindow::waitForDepth(int wanted) const
 {
     return QTest::qWaitFor(
@@ -88,11 +78,6 @@ QQuickItem *AppWindow::listRow(QQuickItem *list, int index)
 void AppWindow::tap(QQuickItem *item, QPointF point) const
 {
     QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, item->mapToScene(point).toPoint());
-}
-
-void AppWindow::tapCentre(QQuickItem *item) const
-{
-    tap(item, QPointF(item->width() / 2, item->height() / 2));
 }
 
 std::unique_ptr<QObject> AppWindow::createView(const QString &file, const QVariantMap &properties)

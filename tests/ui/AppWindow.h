@@ -3,11 +3,11 @@
 #include <QImage>
 #include <QPointF>
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QString>
 #include <QVariantMap>
 #include <memory>
 
-class QQuickItem;
 class QQuickWindow;
 
 /// The app as main.cpp brings it up, on the course the build made, shown and in English. Start-up
@@ -22,8 +22,11 @@ public:
     [[nodiscard]] QQuickWindow *window() const { return m_window; }
     [[nodiscard]] QQmlEngine &engine() { return m_engine; }
     [[nodiscard]] QQuickItem *stack() const { return m_stack; }
-    [[nodiscard]] QQuickItem *currentPage() const;
-    [[nodiscard]] int depth() const;
+    [[nodiscard]] QQuickItem *currentPage() const
+    {
+        return m_stack->property("currentItem").value<QQuickItem *>();
+    }
+    [[nodiscard]] int depth() const { return m_stack->property("depth").toInt(); }
 
     /// Waits until the stack holds that many screens and no transition runs.
     [[nodiscard]] bool waitForDepth(int depth) const;
@@ -33,7 +36,10 @@ public:
 
     /// A left click at a point of the item, through the window as a mouse would.
     void tap(QQuickItem *item, QPointF point) const;
-    void tapCentre(QQuickItem *item) const;
+    void tapCentre(QQuickItem *item) const
+    {
+        tap(item, QPointF(item->width() / 2, item->height() / 2));
+    }
 
     /// A view of qrc:/Tolvane/{file} over the window, its properties (required ones too) set
     /// before it completes; null, with QML's errors logged, when it cannot be made.

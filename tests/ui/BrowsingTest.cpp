@@ -109,17 +109,16 @@ TEST_F(BrowsingTest, KeysAndTapsOpenOneCategoryAtATimeZoomingAtTheTappedPoint)
         {Qt::Key_Escape, Qt::NoModifier},
         {Qt::Key_Backspace, Qt::NoModifier},
         {Qt::Key_Left, Qt::AltModifier}};
-    int expected = 0;
-    for (const auto &[key, modifiers] : backKeys) {
-        QTest::keyClick(app.window(), key, modifiers);
-        ASSERT_TRUE(app.waitForDepth(1)) << key;
-        QTest::keyClick(app.window(), Qt::Key_Down);
-        QTest::keyClick(app.window(), Qt::Key_Return);
-        ASSERT_TRUE(app.waitForDepth(2)) << key;
-        EXPECT_EQ(toolBarTitle(app), loadAllCategories().at(++expected)->trans.value(u"en"_s));
+    for (int next = 0; next < 3; ++next) {
+        if (next > 0) {
+            QTest::keyClick(app.window(), Qt::Key_Down);
+            QTest::keyClick(app.window(), Qt::Key_Return);
+            ASSERT_TRUE(app.waitForDepth(2)) << next;
+            EXPECT_EQ(toolBarTitle(app), loadAllCategories().at(next)->trans.value(u"en"_s));
+        }
+        QTest::keyClick(app.window(), backKeys[next].first, backKeys[next].second);
+        ASSERT_TRUE(app.waitForDepth(1)) << next;
     }
-    QTest::keyClick(app.window(), Qt::Key_Escape);
-    ASSERT_TRUE(app.waitForDepth(1));
     QTest::keyClick(app.window(), Qt::Key_Escape);
     EXPECT_EQ(app.depth(), 1) << "the main screen stays";
 
@@ -168,7 +167,6 @@ TEST_F(BrowsingTest, LabelTextSitsInTheMiddleAndWraps)
                 bottom = y;
                 break;
             }
-    ASSERT_GE(top, 0) << "no text drawn";
     EXPECT_NEAR(top + bottom, label->height(), 8);
 
     label->setProperty("text", u"Ein Kaffee und ein Stück Kuchen, bitte, und dann die Rechnung"_s);

@@ -21,8 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Pop-ups are not items: they are found in the object tree of what declared them, and their
-// contents under the item they draw in the window's overlay.
+// A pop-up is no item: its contents hang under the item it draws in the window's overlay.
 QQuickItem *drawnItem(QObject *popUp)
 {
     auto *content = popUp->property("contentItem").value<QQuickItem *>();
@@ -41,7 +40,6 @@ class SettingsTest : public ::testing::Test {
 protected:
     void TearDown() override { Preferences::instance().setLanguageType(u"en"_s); }
 
-    // Opens a screen through the main screen's tool bar button.
     void openFromMain(const QString &button)
     {
         QQuickItem *item = findItem(app.currentPage(), button);
@@ -56,12 +54,9 @@ protected:
         ASSERT_TRUE(app.waitForDepth(1));
     }
 
-    [[nodiscard]] QQuickItem *row(const QString &objectName) const
+    [[nodiscard]] QQuickItem *row(const QString &name) const
     {
-        QQuickItem *found = findItem(app.currentPage(), objectName);
-        if (!found)
-            ADD_FAILURE() << "no " << qPrintable(objectName);
-        return found;
+        return findItem(app.currentPage(), name);
     }
     [[nodiscard]] QString detail(const QString &objectName) const
     {
@@ -182,17 +177,15 @@ TEST_F(SettingsTest, SpeedDurationLanguageCacheAndLinks)
 
 TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarnedAndThePromptWaitsForThreeUses)
 {
-    QVariantMap record = initialUserInfo();
-    for (const auto &[key, value] : {std::pair{UserInfoKey::startCount, 3},
-                                     {UserInfoKey::listenCount, 41},
-                                     {UserInfoKey::writeCount, 7},
-                                     {UserInfoKey::readCount, 2},
-                                     {UserInfoKey::quizCount, 4},
-                                     {UserInfoKey::quizTotalScore, 265},
-                                     {UserInfoKey::reviewed, 1},
-                                     {UserInfoKey::awordScore, 9}})
-        record[key] = qint64{value};
-    ASSERT_TRUE(writeUserInfo(record));
+    ASSERT_TRUE(writeUserInfo(initialUserInfo()));
+    UserInfoFile().add({{UserInfoKey::startCount, 3},
+                        {UserInfoKey::listenCount, 41},
+                        {UserInfoKey::writeCount, 7},
+                        {UserInfoKey::readCount, 2},
+                        {UserInfoKey::quizCount, 4},
+                        {UserInfoKey::quizTotalScore, 265},
+                        {UserInfoKey::reviewed, 1},
+                        {UserInfoKey::awordScore, 9}});
 
     openFromMain(u"userInfoButton"_s);
     EXPECT_EQ(textOf(app.currentPage(), u"toolBarTitle"_s), u"User Info"_s);

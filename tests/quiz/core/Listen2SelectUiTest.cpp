@@ -11,14 +11,8 @@ namespace {
 
 using Listen2SelectUiTest = QuizCourseUiTest;
 
-QColor colour(const QQuickItem *item)
-{
-    return item->property("color").value<QColor>();
-}
-
 } // namespace
 
-// From a category's screen through the unit quiz menu, as the learner goes.
 TEST_F(Listen2SelectUiTest, PlaysAUnitQuizFromTheMenuThenLeavesAnotherHalfWay)
 {
     app.tapCentre(AppWindow::listRow(item(u"categoryList"_s), 0));
@@ -37,8 +31,7 @@ TEST_F(Listen2SelectUiTest, PlaysAUnitQuizFromTheMenuThenLeavesAnotherHalfWay)
     app.tapCentre(item(u"loudspeakerButton"_s));
     EXPECT_EQ(players.requested.constLast(), soundPath(*quiz->phraseInfos().at(0)));
 
-    // Eight right by taps (the first after a wrong tap it replaces), one wrong by keys, one
-    // left without a choice. Four different options each time, the asked one among them.
+    // Eight right by taps (the first replaces a wrong tap), one wrong by keys, one left blank.
     QString wrongText;
     for (int i = 0; i < 10; ++i) {
         ASSERT_EQ(quiz->currIndex(), i);
@@ -46,8 +39,7 @@ TEST_F(Listen2SelectUiTest, PlaysAUnitQuizFromTheMenuThenLeavesAnotherHalfWay)
         EXPECT_EQ(QSet<QString>(options.cbegin(), options.cend()).size(), 4);
         const int right = option(*quiz, true);
         const int wrong = option(*quiz, false);
-        ASSERT_GE(right, 0);
-        ASSERT_GE(wrong, 0);
+        ASSERT_TRUE(right >= 0 && wrong >= 0);
         EXPECT_EQ(text(u"option%1"_s.arg(right)), foreignText(*quiz->phraseInfos().at(i)));
         if (i < 8) {
             if (i == 0)
@@ -90,6 +82,9 @@ TEST_F(Listen2SelectUiTest, PlaysAUnitQuizFromTheMenuThenLeavesAnotherHalfWay)
 
     // A tapped row is lit while its phrase plays; another row takes the light, and a phrase
     // without a recording leaves none lit.
+    const auto colour = [](const QQuickItem *row) {
+        return row->property("color").value<QColor>();
+    };
     QQuickItem *row0 = AppWindow::listRow(table, 0);
     app.tapCentre(row0);
     EXPECT_EQ(players.requested.constLast(), soundPath(first));

@@ -1,5 +1,6 @@
 #include "QuizCourse.h"
 #include "quiz/Listen2SelectVC.h"
+#include "quiz/QuizOutlineVC.h"
 #include "quiz/wordorder/WordOrderAdjustVC.h"
 
 #include <QSignalSpy>
@@ -9,6 +10,19 @@
 namespace {
 
 using QuizSessionTest = QuizTest;
+
+QList<int> tags(const QuizOutlineVC &menu)
+{
+    QList<int> found;
+    for (const QVariant &button : menu.buttons())
+        found.append(button.toMap().value(u"tag"_s).toInt());
+    return found;
+}
+
+QVariantMap properties(const QuizOutlineVC &menu, int tag)
+{
+    return menu.quizClicked(tag).value(u"properties"_s).toMap();
+}
 
 } // namespace
 
@@ -31,12 +45,11 @@ TEST(QuizAnswer, RightWhenTheGermanTextsDifferInCaseOnly)
 // end in a recorded session.
 TEST_F(QuizSessionTest, WithoutEnoughPhrasesNoKindAsksOrRecords)
 {
-    for (const bool wordOrder : {false, true}) { // word order reads the asked phrase itself
-        for (const QString &id : {u"2"_s, u"99"_s}) {
-            const std::unique_ptr<BaseQuizViewController> quiz =
-                wordOrder ? std::unique_ptr<BaseQuizViewController>(
-                                std::make_unique<WordOrderAdjustVC>(random))
-                          : std::make_unique<Listen2SelectVC>(random);
+    for (const QString &id : {u"2"_s, u"99"_s}) {
+        Listen2SelectVC select(random);
+        WordOrderAdjustVC order(random); // it reads the asked phrase itself on submit
+        for (BaseQuizViewController *quiz : {static_cast<BaseQuizViewController *>(&select),
+                                             static_cast<BaseQuizViewController *>(&order)}) {
             quiz->setupQuiz(10, u"Unit Quiz"_s, id, 10);
             EXPECT_FALSE(quiz->hasQuestions());
             EXPECT_FALSE(quiz->emptyText().isEmpty());
@@ -64,7 +77,6 @@ TEST_F(QuizSessionTest, CountdownShowsEachSecondAndTheTimeOutRecordsOnlySubmitte
     Listen2SelectVC quiz(random);
     quiz.setupQuiz(10, u"Unit Quiz"_s, u"1"_s, 10);
     quiz.viewDidLoad();
-    EXPECT_TRUE(quiz.isCountingDown());
     QStringList shown{quiz.limitedTimeText()};
     QObject::connect(&quiz, &BaseQuizViewController::limitedTimeTextChanged, &quiz,
                      [&] { shown.append(quiz.limitedTimeText()); });
@@ -85,7 +97,6 @@ TEST_F(QuizSessionTest, CountdownShowsEachSecondAndTheTimeOutRecordsOnlySubmitte
     EXPECT_FALSE(quiz.isCountingDown());
     EXPECT_EQ(quiz.progressText(), u"Progress: 3/10"_s);
 
-    // Nothing counts twice after the end.
     quiz.tick();
     quiz.submitAction();
     EXPECT_EQ(finished.count(), 1);
@@ -142,4 +153,34 @@ TEST_F(QuizSessionTest, RowsAreAnEleventhOfTheTableAndGermanLearnersSeeNoTransla
         german.submitAction();
     const QuizResultModel &results = *german.results();
     EXPECT_FALSE(results.data(results.index(0), QuizResultModel::RightTextShownRole).toBool());
+}
+
+TEST(QuizOutline, ButtonsOpenTheirQuizWithCategoryDurationAndDirection)
+{
+    Preferences::instance().setLanguageType(u"en"_s);
+    QuizOutlineVC menu;
+    EXPECT_EQ(menu.titleText(), u"Quizzes"_s);
+    menu.setCategory(u"4"_s);
+    EXPECT_EQ(menu.titleText(), u"Unit Quiz"_s);
+    Preferences::instance().setTestDuration(45.0F);
+    EXPECT_EQ(menu.quizClicked(3).value(u"page"_s).toString(), u"WordOrderAdjustPage.qml"_s);
+    EXPECT_EQ(properties(menu, 3).value(u"categoryId"_s).toString(), u"4"_s);
+    EXPECT_EQ(properties(menu, 3).value(u"titleText"_s).toString(), u"Reorder Words"_s);
+    EXPECT_FLOAT_EQ(properties(menu, 3).value(u"limitedTime"_s).toFloat(), 45.0F);
+    EXPECT_TRUE(properties(menu, 5).value(u"foreign2Mother"_s).toBool());
+    EXPECT_EQ(properties(menu, 6).value(u"foreign2Mother"_s), QVariant(false));
+    EXPECT_FALSE(properties(menu, 1).contains(u"foreign2Mother"_s)) << "it does not translate";
+
+    // Six buttons, five quarter-button gaps and half a button above and below: 8.25 buttons.
+    ASSERT_EQ(tags(menu), (QList<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_DOUBLE_EQ(menu.buttonHeight(825.0), 100.0);
+    // A German learner has nothing to translate into: four buttons, 5.75 buttons high.
+    QSignalSpy changed(&menu, &QuizOutlineVC::buttonsChanged);
+    Preferences::instance().setLanguageType(u"de"_s);
+    EXPECT_EQ(changed.size(), 1);
+    EXPECT_EQ(tags(menu), (QList<int>{1, 2, 3, 4}));
+    EXPECT_DOUBLE_EQ(menu.buttonHeight(575.0), 100.0);
+    EXPECT_EQ(menu.quizClicked(4).value(u"page"_s).toString(), u"Phrase2SpeakPage.qml"_s);
+    EXPECT_TRUE(menu.quizClicked(5).isEmpty());
+    Preferences::instance().setLanguageType(u"en"_s);
 }

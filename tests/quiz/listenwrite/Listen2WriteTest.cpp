@@ -11,16 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Listen2WriteUiTest : public QuizCourseUiTest {
-protected:
-    // Key by key, as a keyboard that can write any letter would.
-    void type(const QString &text) const
-    {
-        for (const QChar c : text)
-            QTest::sendKeyEvent(QTest::Click, app.window(), Qt::Key_unknown, QString(c),
-                                Qt::NoModifier);
-    }
-};
+using Listen2WriteUiTest = QuizCourseUiTest;
+
+// Key by key, as a keyboard that can write any letter would.
+void type(QWindow *window, const QString &text)
+{
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(c), Qt::NoModifier);
+}
 
 } // namespace
 
@@ -29,6 +27,7 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     auto *quiz = pushQuiz<Listen2WriteVC>(u"Listen2WritePage.qml"_s, u"categoryId: \"1\""_s);
     ASSERT_NE(quiz, nullptr);
     EXPECT_EQ(text(u"toolBarTitle"_s), u"Listen And Write"_s);
+    EXPECT_TRUE(players.requested.isEmpty()) << "the phrase comes after a delay";
     QQuickItem *field = item(u"textField"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return field->hasActiveFocus(); }))
         << "the field takes the keyboard at once";
@@ -37,12 +36,10 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     app.tapCentre(item(u"loudspeakerButton"_s));
     EXPECT_EQ(players.requested.size(), 2);
     EXPECT_TRUE(field->hasActiveFocus());
-    ASSERT_NE(players.last, nullptr);
-    EXPECT_TRUE(players.last->isPlaying());
+    ASSERT_TRUE(players.last && players.last->isPlaying());
 
-    // Right: in capitals with Return, as written with Submit. Wrong: a full stop more or less,
-    // a blank more, a long paste. The rest empty, one after a tap beside the
-    // controls put the keyboard away.
+    // Right: in capitals, and as written. Wrong: a full stop more or less, a blank more, a long
+    // paste. The rest empty, one after a tap beside the controls put the keyboard away.
     QStringList typed;
     for (int i = 0; i < 10; ++i) {
         ASSERT_EQ(quiz->currIndex(), i);
@@ -57,7 +54,7 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
             QGuiApplication::clipboard()->setText(typed.constLast());
             QTest::keyClick(app.window(), Qt::Key_V, Qt::ControlModifier);
         } else {
-            type(typed.constLast());
+            type(app.window(), typed.constLast());
         }
         EXPECT_EQ(field->property("text").toString(), typed.constLast());
         if (i == 0)
@@ -71,9 +68,7 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
             }
             QTest::keyClick(app.window(), Qt::Key_Return);
         }
-        if (i == 0) {
-            EXPECT_FALSE(players.last->isPlaying()) << "submitting silences the phrase";
-        }
+        EXPECT_TRUE(i > 0 || !players.last->isPlaying()) << "submitting silences the phrase";
         if (i < 9) {
             EXPECT_TRUE(field->property("text").toString().isEmpty());
             EXPECT_TRUE(field->hasActiveFocus()) << "the field keeps the keyboard";
@@ -86,13 +81,10 @@ TEST_F(Listen2WriteUiTest, PlaysATypedSessionThenLeavesTheNextHalfWay)
     EXPECT_FALSE(item(u"submitBtn"_s)->isVisible());
     expectOneQuizRecorded(20);
 
-    QQuickItem *table = item(u"resultTable"_s);
-    ASSERT_TRUE(table->isVisible());
+    ASSERT_TRUE(item(u"resultTable"_s)->isVisible());
     for (int i = 0; i < 6; ++i)
         expectAnswer(i, i < 5 ? typed.at(i) : u"-"_s, i < 2);
     (void)app.screenshot(u"listen-write-results"_s);
-    app.tapCentre(AppWindow::listRow(table, 1));
-    EXPECT_EQ(players.requested.constLast(), soundPath(*quiz->phraseInfos().at(1)));
     QTest::keyClick(app.window(), Qt::Key_Escape);
     ASSERT_TRUE(app.waitForDepth(1));
     leaveHalfWay<Listen2WriteVC>(u"Listen2WritePage.qml"_s);

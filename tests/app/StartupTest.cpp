@@ -38,6 +38,7 @@ using StartupDeathTest = StartupTest;
 TEST_F(StartupTest, FirstStartCreatesTheRecordLaterStartsCountUpAndResetTheSpeed)
 {
     ASSERT_TRUE(start());
+    EXPECT_EQ(takeRecordNotice(), QString()) << "a first start has nothing to tell";
     QVariantMap record = initialUserInfo();
     record[UserInfoKey::startCount] = qint64{1};
     EXPECT_EQ(readUserInfo(), record);

@@ -26,7 +26,9 @@ TEST_F(UserInfoFileTest, CountersAreStoredEncipheredAndReplacedWhole)
     ASSERT_TRUE(record.write({{u"kStartCount"_s, qint64{0}}, {u"kQuizTotalScore"_s, qint64{5}}}));
     record.increment(u"kStartCount"_s);
     record.add({{u"kStartCount"_s, 2}, {u"kQuizTotalScore"_s, -7}});
+    const QVariantMap beforeLastWrite = record.read();
     record.setInt(u"kReviewed"_s, std::numeric_limits<qint64>::max());
+    EXPECT_EQ(UserInfoFile(record.previousPath()).read(), beforeLastWrite);
     EXPECT_EQ(record.intValue(u"kStartCount"_s), 3);
     EXPECT_EQ(record.intValue(u"kQuizTotalScore"_s), -2);
     EXPECT_EQ(record.intValue(u"kReviewed"_s), std::numeric_limits<qint64>::max());
@@ -40,6 +42,10 @@ TEST_F(UserInfoFileTest, CountersAreStoredEncipheredAndReplacedWhole)
     // before.
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
               (QStringList{u"userInfo.plist"_s, u"userInfo.plist.previous"_s}));
+    // A damaged record is never kept as the copy: healing needs the good one.
+    ASSERT_TRUE(VoFileUtil::writeFileAtomically(record.path(), "damaged"));
+    ASSERT_TRUE(record.write({}));
+    EXPECT_EQ(UserInfoFile(record.previousPath()).read(), beforeLastWrite);
 }
 
 TEST_F(UserInfoFileDeathTest, NonIntegersAndOverflowsAreFatal)

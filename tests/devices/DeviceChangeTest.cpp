@@ -1,16 +1,11 @@
-#include "audio/AudioInput.h"
 #include "audio/SoundOutput.h"
 #include "audio/StretchedStream.h"
 #include "audio/TempoAudioPlayer.h"
-#include "audio/VoAudioRecorder.h"
 #include "support/TestPaths.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <deque>
 #include <gtest/gtest.h>
 
@@ -58,38 +53,6 @@ struct FakeDeviceList {
     std::vector<FakeOutput *> used;
 };
 
-/// A microphone that says `seconds` of 16 kHz mono sound, then is unplugged.
-class UnpluggedInput final : public AudioInput {
-public:
-    explicit UnpluggedInput(double seconds)
-        : m_seconds(seconds)
-    {}
-    QString start() override
-    {
-        QTimer::singleShot(0, this, [this] {
-            const auto samples = static_cast<qsizetype>(m_seconds * 16000);
-            QByteArray pcm(samples * 2, '\0');
-            for (qsizetype i = 0; i < samples; ++i)
-                reinterpret_cast<qint16 *>(pcm.data())[i] = static_cast<qint16>(i % 200 * 100);
-            Q_EMIT frames(pcm);
-            Q_EMIT failed(u"unplugged"_s);
-        });
-        return {};
-    }
-    void stop() override {}
-    [[nodiscard]] QAudioFormat format() const override
-    {
-        QAudioFormat format;
-        format.setSampleRate(16000);
-        format.setChannelCount(1);
-        format.setSampleFormat(QAudioFormat::Int16);
-        return format;
-    }
-
-private:
-    double m_seconds;
-};
-
 QString courseRecording()
 {
     return TestPaths::course() + u"/1/voices/101.mp3"_s;
@@ -121,36 +84,4 @@ TEST(DeviceChange, PlaybackMovesToTheNextDeviceThenGoesOnSilently)
     ASSERT_TRUE(finished.wait(static_cast<int>(player->duration() * 1000) + 5000));
     EXPECT_TRUE(finished.at(0).at(0).toBool());
     EXPECT_GE(clock.elapsed(), static_cast<qint64>(player->duration() * 1000) - 50);
-}
-
-// A take cut short by an unplugged microphone is kept when it holds half a second; a shorter one
-// is dropped with a message asking for another. A microphone plugged in later records at once.
-TEST(DeviceChange, AnUnpluggedMicrophoneKeepsALongTakeAndAsksAgainAfterAShortOne)
-{
-    const QTemporaryDir folder;
-    std::deque<std::function<std::unique_ptr<AudioInput>()>> inputs{
-        [] { return std::unique_ptr<AudioInput>(); }, // nothing plugged in yet
-        [] { return std::make_unique<UnpluggedInput>(0.2); },
-        [] { return std::make_unique<UnpluggedInput>(0.8); },
-    };
-    VoAudioRecorder recorder([&inputs] {
-        auto make = inputs.front();
-        inputs.pop_front();
-        return make();
-    });
-    QSignalSpy finished(&recorder, &VoAudioRecorder::recorderDidFinishRecording);
-    const QString take = folder.filePath(u"take.wav"_s);
-
-    for (const auto &[seconds, kept] : {std::pair{0.0, false}, {0.2, false}, {0.8, true}}) {
-        SCOPED_TRACE(seconds);
-        recorder.recordPushed(take);
-        ASSERT_TRUE(finished.wait(5000) || !finished.isEmpty());
-        EXPECT_EQ(finished.takeLast().at(0).toBool(), kept);
-        EXPECT_EQ(QFile::exists(take), kept);
-        EXPECT_FALSE(recorder.isRecording());
-        if (!kept) {
-            EXPECT_FALSE(recorder.errorText().isEmpty());
-        }
-    }
-    EXPECT_NEAR(static_cast<double>(QFile(take).size() - 44) / 32000.0, 0.8, 0.05);
 }

@@ -84,22 +84,6 @@ TEST(RecordHealing, DamagedRecordsComeBackFromTheKeptCopyOrFresh)
     }
 }
 
-// The kept copy is the record before the last write, and a damaged file never replaces it.
-TEST(RecordHealing, EachWriteKeepsTheRecordItReplaces)
-{
-    const QTemporaryDir folder;
-    const UserInfoFile file(folder.filePath(u"userInfo.plist"_s));
-    EXPECT_EQ(file.open(initialUserInfo()).outcome, Outcome::Created);
-    ASSERT_TRUE(file.write(recordWith(1)));
-    ASSERT_TRUE(file.write(recordWith(2)));
-    EXPECT_EQ(UserInfoFile(file.previousPath()).read(), recordWith(1));
-
-    ASSERT_TRUE(VoFileUtil::writeFileAtomically(file.path(), "damaged"));
-    ASSERT_TRUE(file.write(recordWith(3)));
-    EXPECT_EQ(UserInfoFile(file.previousPath()).read(), recordWith(1));
-    EXPECT_EQ(file.read(), recordWith(3));
-}
-
 // Changes from two threads all arrive, and whatever is pending when the writer goes is written.
 TEST(RecordWriter, KeepsEveryChangeAndDrainsWhenItGoes)
 {

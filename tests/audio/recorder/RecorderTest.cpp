@@ -10,10 +10,12 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <atomic>
 #include <gtest/gtest.h>
 #include <sndfile.h>
 
 using namespace AudioFixtures;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -171,27 +173,35 @@ TEST(RecorderFailure, StartsThatFailAreReported)
     EXPECT_FALSE(QFile::exists(old));
 }
 
-TEST(RecorderFailure, UnpluggedDeviceEndsTheRecordingWithWhatWasHeard)
+// A microphone plugged in after a failed start records at once; one unplugged mid-take keeps a
+// take of half a second or more, and drops a shorter one with a message to record again.
+TEST(RecorderFailure, UnpluggedMicrophoneKeepsALongTakeAndAsksAgainAfterAShortOne)
 {
     const QTemporaryDir folder;
-    const QString heard = folder.filePath(QStringLiteral("heard.wav"));
-    ASSERT_TRUE(writeSound(heard, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 16000, 1,
-                           tone(16000, 0.1, 440.0, {0.5})));
-    RecorderHarness harness([&heard]() -> std::unique_ptr<AudioInput> {
+    std::atomic<int> takes = 0; // counted on the recording thread
+    RecorderHarness harness([&]() -> std::unique_ptr<AudioInput> {
+        const int take = ++takes;
+        if (take == 1)
+            return nullptr; // nothing plugged in yet
+        const QString heard = folder.filePath(QString::number(take) + u".wav"_s);
+        EXPECT_TRUE(writeSound(heard, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 16000, 1,
+                               tone(16000, take == 2 ? 0.2 : 0.8, 440.0, {0.5})));
         auto input = std::make_unique<FileAudioInput>(heard);
         QObject::connect(input.get(), &FileAudioInput::allDelivered, input.get(),
-                         [raw = input.get()] {
-                             Q_EMIT raw->failed(QStringLiteral("the microphone was unplugged"));
-                         });
+                         [raw = input.get()] { Q_EMIT raw->failed(u"unplugged"_s); });
         return input;
     });
     const QString target = harness.path("cut.caf");
-    harness.recorder.recordPushed(target);
-    ASSERT_TRUE(harness.waitFinished());
-    EXPECT_FALSE(harness.finished.first().first().toBool());
-    EXPECT_FALSE(harness.recorder.isRecording());
-    EXPECT_EQ(harness.recorder.errorText(), QStringLiteral("the microphone was unplugged"));
-    EXPECT_EQ(decodedSamples(target).size(), 1600U);
+    int ended = 0;
+    for (const bool kept : {false, false, true}) {
+        harness.recorder.recordPushed(target);
+        ASSERT_TRUE(harness.waitFinished(++ended));
+        EXPECT_EQ(harness.finished.last().first().toBool(), kept) << ended;
+        EXPECT_FALSE(harness.recorder.isRecording());
+        EXPECT_EQ(QFile::exists(target), kept) << ended;
+    }
+    EXPECT_TRUE(harness.recorder.errorText().contains(u"record again"_s));
+    EXPECT_EQ(decodedSamples(target).size(), 12800U);
 }
 
 TEST(MicrophonePermission, MissingDeviceCountsAsDenied)

@@ -45,6 +45,8 @@ TEST(RecordHealing, DamagedRecordsComeBackFromTheKeptCopyOrFresh)
     const QByteArray whole = bytesOf(recordWith(7));
     QVariantMap lacking = recordWith(7);
     lacking.remove(UserInfoKey::quizCount);
+    QVariantMap unrounded = recordWith(7);
+    unrounded.insert(UserInfoKey::quizCount, 1e300);
     const QByteArray cipherOfText =
         VoCryptor::encryptWithDES(u"not a property list"_s, VoCryptor::recordKey).toUtf8();
     const std::vector<std::pair<const char *, QByteArray>> damages{
@@ -52,6 +54,7 @@ TEST(RecordHealing, DamagedRecordsComeBackFromTheKeptCopyOrFresh)
         {"truncated", whole.left(whole.size() / 2)},
         {"emptied", QByteArray()},
         {"lacking a key", bytesOf(lacking)},
+        {"a real for a counter", bytesOf(unrounded)},
         {"deciphered to no plist", cipherOfText},
     };
     for (const auto &[what, damaged] : damages) {

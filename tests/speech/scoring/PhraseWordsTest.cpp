@@ -27,6 +27,9 @@ TEST(PhraseWords, LettersOutsideAsciiCutTheWord)
     EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Müller "_s, false), QStringList{u"ller"_s});
     EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Straße"_s, true), QStringList{u"E"_s});
     EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Grüß Gott"_s, true), QStringList{u"GOTT"_s});
+    // Not even those that fold to ASCII letters: the long s and the Kelvin sign.
+    EXPECT_EQ(VoPSRecognizer::getAllWordFromText(u"Stra\u017Fe \u212Aatze"_s, false),
+              (QStringList{u"e"_s, u"atze"_s}));
 }
 
 TEST(PhraseWords, TextsWithoutWords)

@@ -1,5 +1,6 @@
 #include "content/QtPrinters.h"
 #include "content/VoFileUtil.h"
+#include "speech/PronunciationList.h"
 #include "speech/VoLanguageModelTrainer.h"
 
 #include <QCoreApplication>
@@ -137,4 +138,22 @@ TEST(TrainerSteps, NamesTheFilesOfAModel)
                            {u"DictionaryPath"_s, u"/data/lm/test.dic"_s}}));
     EXPECT_EQ(trainer.englishAcousticModelPath(),
               QCoreApplication::applicationDirPath() + u"/AcousticModelEnglish.bundle"_s);
+}
+
+// The list the lookup scans is written from these entries: an alternate it cannot write back as
+// itself must stop the build rather than become a second main line.
+TEST(PronunciationList, RefusesAlternatesBelowOneOrPastInt)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"list.dict"_s);
+    for (const QByteArray line : {"HALLO(0) HH AH L OW\n", "HALLO(99999999999) HH AH L OW\n"}) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("HALLO HH AA L OW\n" + line);
+        file.close();
+        QString error;
+        EXPECT_FALSE(readPronunciationDictionary(path, error)) << line.constData();
+        EXPECT_TRUE(error.endsWith(u"line 2 has no alternate number from 1 on"_s))
+            << qPrintable(error);
+    }
 }

@@ -35,7 +35,8 @@ QJsonDocument readJson(int line, const QByteArray &bytes, const QString &path)
 QString requiredId(int line, const QJsonObject &object, const QString &path)
 {
     const QJsonValue id = object.value(QLatin1String("id"));
-    if (!id.isDouble())
+    // toInteger() gives 0 for 1.5 or 1e20, which would silently name another item.
+    if (!id.isDouble() || id.toDouble() != static_cast<double>(id.toInteger()))
         contentError(line, QStringLiteral("%1 has no integer \"id\"").arg(path));
     return QString::number(id.toInteger());
 }

@@ -27,9 +27,9 @@ bool isWhole(const QVariantMap &record, const QVariantMap &fresh)
     if (record.isEmpty())
         return false;
     for (auto it = fresh.cbegin(); it != fresh.cend(); ++it) {
-        bool isInteger = false;
-        (void)record.value(it.key()).toLongLong(&isInteger);
-        if (!isInteger)
+        // The type, not toLongLong(): that also takes a truth value, a text of digits and any
+        // real, rounding 1e300 or NaN to a counter no sum survives.
+        if (record.value(it.key()).typeId() != QMetaType::LongLong)
             return false;
     }
     return true;
@@ -120,9 +120,8 @@ RecordOpening UserInfoFile::open(const QVariantMap &fresh) const
     } else if (!current.isEmpty()) {
         // Whatever counters could be read are the learner's; only the missing ones start at 0.
         for (auto it = fresh.cbegin(); it != fresh.cend(); ++it) {
-            bool isInteger = false;
-            const qint64 value = current.value(it.key()).toLongLong(&isInteger);
-            if (isInteger)
+            if (const QVariant value = current.value(it.key());
+                value.typeId() == QMetaType::LongLong)
                 opening.record.insert(it.key(), value);
         }
         opening.outcome = RecordOpening::Outcome::Repaired;

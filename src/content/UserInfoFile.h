@@ -46,11 +46,11 @@ public:
     /// previous copy.
     bool write(const QVariantMap &dictionary) const;
 
-    /// Reads the record and heals it when it cannot be read, deciphered or parsed or lacks one of
-    /// the keys of `fresh` (the record of a first start): the previous copy takes its place, or,
-    /// when that is no better, `fresh` with every counter the damaged record still holds. A
-    /// damaged file is moved aside under a dated name, never deleted. Whatever it returns is on
-    /// disk as the record.
+    /// Reads the record and heals it when it cannot be read, deciphered or parsed or lacks an
+    /// integer under one of the keys of `fresh` (the record of a first start): the previous copy
+    /// takes its place, or, when that is no better, `fresh` with every counter the damaged record
+    /// still holds. A damaged file is moved aside under a dated name, never deleted. Whatever it
+    /// returns is on disk as the record.
     [[nodiscard]] RecordOpening open(const QVariantMap &fresh) const;
 
     // A missing key, a value that is not an integer and an overflow are fatal.

@@ -28,8 +28,15 @@ std::optional<QList<Pronunciation>> readPronunciationDictionary(const QString &p
             error = QStringLiteral("%1 line %2 is not \"word phones\"").arg(path).arg(i + 1);
             return std::nullopt;
         }
-        list.append({match.captured(1).toUpper(),
-                     match.hasCaptured(2) ? match.captured(2).toInt() : 1,
+        bool isNumber = true;
+        const int alternate = match.hasCaptured(2) ? match.captured(2).toInt(&isNumber) : 1;
+        // "WORD(0)" or a number past int would be written back as a main line.
+        if (!isNumber || alternate < 1) {
+            error =
+                QStringLiteral("%1 line %2 has no alternate number from 1 on").arg(path).arg(i + 1);
+            return std::nullopt;
+        }
+        list.append({match.captured(1).toUpper(), alternate,
                      match.captured(3).split(blanks).join(QLatin1Char(' '))});
     }
     return list;

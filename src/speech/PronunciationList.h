@@ -13,7 +13,8 @@ struct Pronunciation {
 };
 
 /// The entries of a dictionary in the "word phones" / "word(2) phones" layout, words
-/// upper-cased. Nothing, with the file and line in error, when a line has no phones.
+/// upper-cased. Nothing, with the file and line in error, when a line has no phones or an
+/// alternate number below 1.
 [[nodiscard]] std::optional<QList<Pronunciation>> readPronunciationDictionary(const QString &path,
                                                                               QString &error);
 

@@ -6,8 +6,9 @@
 
 QStringList recognizerWords(const QString &text, bool uppercased)
 {
-    static const QRegularExpression word(QStringLiteral("([a-z']+)[\\s?!.,]"),
-                                         QRegularExpression::CaseInsensitiveOption |
-                                             QRegularExpression::UseUnicodePropertiesOption);
+    // Both cases spelt out: a case-insensitive [a-z] with Unicode properties also takes the
+    // long s and the Kelvin sign, which no English phone spells.
+    static const QRegularExpression word(QStringLiteral("([A-Za-z']+)[\\s?!.,]"),
+                                         QRegularExpression::UseUnicodePropertiesOption);
     return TextHelpers::wordsMatching(word, text, uppercased);
 }

@@ -116,6 +116,7 @@ TEST(ContentStoreDeathTest, DamagedContentIsFatal)
         {"phrasesInfo of another key", info, enciphered(R"([])", VoCryptor::recordKey)},
         {"phrases not JSON", info, enciphered(R"([{"id": 1)")},
         {"phrase without id", info, enciphered(R"([{"txt": "Ja"}])")},
+        {"phrase id not whole", info, enciphered(R"([{"id": 1.5, "txt": "Ja"}])")},
         {"phrase without txt", info, enciphered(R"([{"id": 1, "phon": "ja"}])")},
     };
     for (const auto &broken : cases)

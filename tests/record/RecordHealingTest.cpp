@@ -46,6 +46,8 @@ TEST(RecordHealing, DamagedRecordsComeBackFromTheKeptCopyOrFresh)
     const QByteArray whole = bytesOf(recordWith(7));
     QVariantMap lacking = recordWith(7);
     lacking.remove(UserInfoKey::quizCount);
+    QVariantMap unrounded = recordWith(7);
+    unrounded.insert(UserInfoKey::quizCount, 1e300);
     const QByteArray cipherOfText =
         VoCryptor::encryptWithDES(u"not a property list"_s, VoCryptor::recordKey).toUtf8();
     const std::vector<std::pair<const char *, QByteArray>> damages{
@@ -53,6 +55,7 @@ TEST(RecordHealing, DamagedRecordsComeBackFromTheKeptCopyOrFresh)
         {"truncated", whole.left(whole.size() / 2)},
         {"emptied", QByteArray()},
         {"lacking a key", bytesOf(lacking)},
+        {"a real for a counter", bytesOf(unrounded)},
         {"deciphered to no plist", cipherOfText},
     };
     for (const auto &[what, damaged] : damages) {
@@ -68,7 +71,8 @@ TEST(RecordHealing, DamagedRecordsComeBackFromTheKeptCopyOrFresh)
 
             const RecordOpening opening = file.open(initialUserInfo());
             // Without a copy, what a record lacking a key still holds is kept.
-            const bool readable = std::string_view(what) == "lacking a key";
+            const bool readable = std::string_view(what) == "lacking a key" ||
+                                  std::string_view(what) == "a real for a counter";
             EXPECT_EQ(opening.outcome, keptCopy   ? Outcome::RestoredPrevious
                                        : readable ? Outcome::Repaired
                                                   : Outcome::StartedFresh);

@@ -11,10 +11,12 @@ namespace {
 
 constexpr qint64 chunkBytes = 64 * 1024;
 
+// NUL too: SphinxBase reads the model's words as C strings, and a word cut short at a NUL
+// breaks its n-gram tables (it crashed reading such a model).
 bool isSeparator(char byte)
 {
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\v' || byte == '\f' ||
-           byte == '\r';
+           byte == '\r' || byte == '\0';
 }
 
 } // namespace

@@ -10,9 +10,10 @@ class QIODevice;
  *
  * The corpus is white-space separated tokens, normally one sentence a line between "<s>" and
  * "</s>"; lines play no part, the steps read one token stream. Tokens are bytes, not checked as
- * UTF-8. Each step reports success; failures are logged (category tolvane.speech.lm) and leave
- * the caller to decide. A positive verbosity adds one progress line (level 8) per step. The
- * steps keep no state between calls, so several may run at once on different files.
+ * UTF-8; a NUL byte separates them as white space does. Each step reports success; failures are
+ * logged (category tolvane.speech.lm) and leave the caller to decide. A positive verbosity adds one
+ * progress line (level 8) per step. The steps keep no state between calls, so several may run at
+ * once on different files.
  */
 namespace lm {
 

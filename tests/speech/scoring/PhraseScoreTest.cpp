@@ -175,6 +175,8 @@ TEST(PhraseWords, AsciiRunsFollowedByASeparator)
         // Only the ASCII tail after the last other letter counts.
         {u"Müller "_s, false, {u"ller"_s}},
         {u"Grüß Gott"_s, true, {u"GOTT"_s}},
+        // Not even letters that fold to ASCII ones: the long s and the Kelvin sign.
+        {u"Stra\u017Fe \u212Aatze"_s, false, {u"e"_s, u"atze"_s}},
         {u"?!., "_s, true, {}},
         {u"Привет, мир!"_s, true, {}},
         {u"(Hallo)"_s, true, {}},

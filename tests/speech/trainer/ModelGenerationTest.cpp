@@ -1,6 +1,7 @@
 #include "content/QtPrinters.h"
 #include "content/VoFileUtil.h"
 #include "speech/NgramModelFile.h"
+#include "speech/PronunciationList.h"
 #include "speech/VoLanguageModelTrainer.h"
 
 #include <QCoreApplication>
@@ -163,4 +164,19 @@ TEST(ModelGeneration, EnglishModelIsTheOneBesideTheProgram)
 {
     EXPECT_EQ(VoLanguageModelTrainer().englishAcousticModelPath(),
               QCoreApplication::applicationDirPath() + u"/AcousticModelEnglish.bundle"_s);
+}
+
+// The lookup list is written from these entries: an alternate it cannot write back as itself
+// must stop the build rather than become a second main line.
+TEST(PronunciationList, RefusesAlternatesBelowOneOrPastInt)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"list.dict"_s);
+    for (const QByteArray line : {"HALLO(0) HH AH L OW\n", "HALLO(99999999999) HH AH L OW\n"}) {
+        ASSERT_TRUE(VoFileUtil::writeFileAtomically(path, "HALLO HH AA L OW\n" + line));
+        QString error;
+        EXPECT_FALSE(readPronunciationDictionary(path, error)) << line.constData();
+        EXPECT_TRUE(error.endsWith(u"line 2 has no alternate number from 1 on"_s))
+            << qPrintable(error);
+    }
 }

@@ -21,15 +21,20 @@ QVariantMap decode(const QByteArray &bytes)
     return PlistCodec::dictionaryFromBytes(plain->toUtf8()).value_or(QVariantMap());
 }
 
+/// The type, not toLongLong(): that also takes a truth value, a text of digits and any real,
+/// rounding 1e300 or NaN to a counter no sum survives.
+bool isCounter(const QVariant &value)
+{
+    return value.typeId() == QMetaType::LongLong;
+}
+
 /// True when every key of `fresh` is there and holds an integer.
 bool isWhole(const QVariantMap &record, const QVariantMap &fresh)
 {
     if (record.isEmpty())
         return false;
     for (auto it = fresh.cbegin(); it != fresh.cend(); ++it) {
-        // The type, not toLongLong(): that also takes a truth value, a text of digits and any
-        // real, rounding 1e300 or NaN to a counter no sum survives.
-        if (record.value(it.key()).typeId() != QMetaType::LongLong)
+        if (!isCounter(record.value(it.key())))
             return false;
     }
     return true;
@@ -120,8 +125,7 @@ RecordOpening UserInfoFile::open(const QVariantMap &fresh) const
     } else if (!current.isEmpty()) {
         // Whatever counters could be read are the learner's; only the missing ones start at 0.
         for (auto it = fresh.cbegin(); it != fresh.cend(); ++it) {
-            if (const QVariant value = current.value(it.key());
-                value.typeId() == QMetaType::LongLong)
+            if (const QVariant value = current.value(it.key()); isCounter(value))
                 opening.record.insert(it.key(), value);
         }
         opening.outcome = RecordOpening::Outcome::Repaired;

@@ -6,6 +6,7 @@
 #include "speech/FrontEndFraming.h"
 #include "speech/LogPowerSpectrum.h"
 #include "speech/PhraseAssessment.h"
+#include "speech/VoCommandArray.h"
 #include "speech/VoLanguageModelTrainer.h"
 #include "speech/VoPSRecognizer.h"
 
@@ -226,7 +227,8 @@ int runSpectrumCommand(const CommandLine &command)
     if (!QFileInfo(recording).isFile())
         return command.fail(QStringLiteral("spectrum: no recording at %1").arg(recording));
     std::vector<int16_t> samples;
-    const auto longest = static_cast<size_t>(VoPSRecognizer::longestRecordingSeconds * 16000);
+    const auto longest =
+        static_cast<size_t>(VoPSRecognizer::longestRecordingSeconds * VoCommandArray::sampleRate);
     const int32_t status = VoAudioUtil::decodeSpeechSamples(recording, samples, longest + 1);
     // The decoder has said what went wrong, in one line naming the file.
     if (status != 0 && status != AudioDecodeStatus::tooLarge)

@@ -2,6 +2,7 @@
 
 #include "RunBeside.h"
 #include "SpeechLog.h"
+#include "VoCommandArray.h"
 #include "VoLanguageModelTrainer.h"
 #include "VoPSRecognizer.h"
 #include "audio/VoAudioUtil.h"
@@ -83,8 +84,8 @@ PhraseAssessment assessWithModel(VoPSRecognizer &recognizer, ReadingVerifier &ve
 {
     // Twice the longest reading is read, so that the recogniser's own length check, not the
     // decoder, tells the learner how long a too-long recording is.
-    constexpr auto readAtMost =
-        static_cast<size_t>(2 * VoPSRecognizer::longestRecordingSeconds * 16000);
+    constexpr auto readAtMost = static_cast<size_t>(2 * VoPSRecognizer::longestRecordingSeconds *
+                                                    VoCommandArray::sampleRate);
     std::vector<int16_t> samples;
     if (VoAudioUtil::decodeSpeechSamples(recordingPath, samples, readAtMost) != 0) {
         VoLog::write(

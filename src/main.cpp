@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/AppPaths.h"
+#include "app/UiLanguage.h"
 #include "app/UserRecord.h"
 #include "content/AppCommon.h"
 
@@ -40,6 +41,7 @@ int main(int argc, char *argv[])
 
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     QQmlApplicationEngine engine;
+    UiLanguage::follow(engine);
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreationFailed, &app,
         [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);

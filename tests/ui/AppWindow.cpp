@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/AppPaths.h"
 #include "app/Preferences.h"
+#include "app/UiLanguage.h"
 #include "content/AppCommon.h"
 #include "support/TestPaths.h"
 
@@ -35,6 +36,7 @@ void startOnce()
 AppWindow::AppWindow()
 {
     startOnce();
+    UiLanguage::follow(m_engine);
     m_engine.load(QUrl(u"qrc:/Tolvane/Main.qml"_s));
     if (m_engine.rootObjects().isEmpty())
         qFatal("Main.qml did not load");

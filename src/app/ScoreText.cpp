@@ -1,5 +1,7 @@
 #include "ScoreText.h"
 
+#include <QLocale>
+
 namespace ScoreText {
 
 QColor color(int points, int outOf)
@@ -14,12 +16,12 @@ QColor color(int points, int outOf)
 
 QString styled(const QString &label, int points, int outOf, bool boldPoints)
 {
-    const QString digits =
-        boldPoints ? QStringLiteral("<b>%1</b>").arg(points) : QString::number(points);
+    // In the learner's digits: the default locale follows the screens' language.
+    const QString pointsText = QLocale().toString(points);
+    const QString digits = boldPoints ? QStringLiteral("<b>%1</b>").arg(pointsText) : pointsText;
     return (label + QStringLiteral(": ")).toHtmlEscaped() +
            QStringLiteral("<font color=\"%1\">%2</font>/%3")
-               .arg(color(points, outOf).name(), digits)
-               .arg(outOf);
+               .arg(color(points, outOf).name(), digits, QLocale().toString(outOf));
 }
 
 } // namespace ScoreText

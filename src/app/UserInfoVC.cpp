@@ -3,6 +3,7 @@
 #include "UserRecord.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <array>
 
 namespace {
@@ -29,7 +30,7 @@ const std::array<DetailSource, 7> detailSources{{
 UserInfoVC::UserInfoVC(QObject *parent)
     : QObject(parent)
     , m_userInfo(readUserInfo())
-    , m_totalText(QString::number(totalExperience(m_userInfo)))
+    , m_totalText(QLocale().toString(totalExperience(m_userInfo)))
 {}
 
 QList<UserInfoVC::DetailRow> UserInfoVC::details() const
@@ -38,7 +39,7 @@ QList<UserInfoVC::DetailRow> UserInfoVC::details() const
     for (const DetailSource &source : detailSources)
         rows.append({QCoreApplication::translate("UserInfoVC", source.title),
                      QLatin1String(source.multiplier) +
-                         QString::number(UserInfoFile::intFrom(m_userInfo, *source.key))});
+                         QLocale().toString(UserInfoFile::intFrom(m_userInfo, *source.key))});
     return rows;
 }
 

@@ -37,7 +37,7 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             width: 64 * LayoutMetrics.scaleX
             font.pixelSize: 14 * options.textScale
-            model: options.controller.repeatChoices.map(count => qsTr("%1×").arg(count))
+            model: options.controller.repeatChoices.map(count => qsTr("%1×").arg(count.toLocaleString(Qt.locale(UiLanguage.localeName), "f", 0)))
             currentIndex: options.controller.repeatChoices.indexOf(options.controller.repeatCount)
             onActivated: index => options.controller.repeatCount = options.controller.repeatChoices[index]
         }
@@ -57,7 +57,7 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             width: 72 * LayoutMetrics.scaleX
             font.pixelSize: 14 * options.textScale
-            model: options.controller.delayChoices.map(seconds => qsTr("%1 s").arg(seconds))
+            model: options.controller.delayChoices.map(seconds => qsTr("%1 s").arg(seconds.toLocaleString(Qt.locale(UiLanguage.localeName), "f", 0)))
             currentIndex: options.controller.delayChoices.indexOf(options.controller.itemDelay)
             onActivated: index => options.controller.itemDelay = options.controller.delayChoices[index]
         }

@@ -26,6 +26,11 @@ ApplicationWindow {
         anchors.fill: parent
         initialItem: MainPage {}
 
+        // Arabic reads from the right: every screen mirrors with the navigation, while texts
+        // keep their own direction, so a German phrase still reads from the left.
+        LayoutMirroring.enabled: UiLanguage.rightToLeft
+        LayoutMirroring.childrenInherit: true
+
         pushEnter: ZoomTransition {
             id: grow
             origin: stack.hitPoint

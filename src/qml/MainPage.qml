@@ -140,7 +140,7 @@ BasePage {
                     anchors.right: parent.right
                     anchors.rightMargin: page.margin
                     height: parent.height
-                    text: controller.experienceTotal.toLocaleString(Qt.locale(), "f", 0)
+                    text: controller.experienceTotal.toLocaleString(Qt.locale(UiLanguage.localeName), "f", 0)
                     font.pixelSize: 30 * page.textScale
                     font.bold: true
                     color: AppColors.experience

@@ -51,7 +51,8 @@ Item {
                 objectName: "phrasePosition"
                 anchors.horizontalCenter: parent.horizontalCenter
                 visible: card.phraseCard.hasPhrase
-                text: qsTr("%1 of %2").arg(card.phraseCard.currentIndex + 1).arg(card.phraseCard.phraseCount)
+                text: qsTr("%1 of %2").arg((card.phraseCard.currentIndex + 1).toLocaleString(Qt.locale(UiLanguage.localeName), "f", 0))
+                                        .arg(card.phraseCard.phraseCount.toLocaleString(Qt.locale(UiLanguage.localeName), "f", 0))
                 font.pixelSize: 12 * card.textScale
                 color: AppColors.secondaryText
             }

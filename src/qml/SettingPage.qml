@@ -46,7 +46,7 @@ BasePage {
             SettingRow {
                 objectName: "speedRow"
                 text: qsTr("Playback speed")
-                detail: qsTr("%1x").arg(controller.playSpeed.toFixed(1))
+                detail: qsTr("%1x").arg(controller.playSpeed.toLocaleString(Qt.locale(UiLanguage.localeName), "f", 1))
                 Slider {
                     objectName: "speedSlider"
                     Layout.preferredWidth: 100 * LayoutMetrics.scaleX
@@ -83,7 +83,7 @@ BasePage {
             SettingRow {
                 objectName: "cacheRow"
                 text: qsTr("Cache")
-                detail: qsTr("%1 MB").arg(controller.cacheSize.toFixed(2))
+                detail: qsTr("%1 MB").arg(controller.cacheSize.toLocaleString(Qt.locale(UiLanguage.localeName), "f", 2))
                 Button {
                     objectName: "clearCacheButton"
                     text: qsTr("Clear")

@@ -202,7 +202,8 @@ TEST_F(SettingsTest, UserInfoShowsHowTheTotalWasEarnedAndThePromptWaitsForThreeU
                            u"Read Word: 5 * 2"_s, u"Quiz Times: 10 * 4"_s, u"Quiz Score: 265"_s,
                            u"Review App: 1000 * 1"_s}));
     // 30 + 205 + 35 + 10 + 40 + 265 + 1000, and the word score of 9 that has no row.
-    EXPECT_EQ(textOf(app.currentPage(), u"userInfoTotal"_s), u"1594"_s);
+    EXPECT_EQ(textOf(app.currentPage(), u"userInfoTotal"_s), u"1,594"_s)
+        << "grouped as the main screen groups it";
     (void)app.screenshot(u"user_info"_s);
 
     // The rating prompt asks on coming back to the main screen after three uses.

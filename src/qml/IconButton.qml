@@ -6,11 +6,19 @@ import QtQuick.Controls
 ToolButton {
     id: button
 
+    // An arrow points the way of reading: set on buttons whose picture means back or forward.
+    property bool pointsAlongText: false
+
     padding: 0
     icon.color: "transparent"
     icon.width: width
     icon.height: height
     focusPolicy: Qt.NoFocus
+
+    transform: Scale {
+        origin.x: button.width / 2
+        xScale: button.pointsAlongText && button.mirrored ? -1 : 1
+    }
 
     background: Rectangle {
         color: "white"

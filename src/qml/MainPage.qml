@@ -51,7 +51,7 @@ BasePage {
             IconButton {
                 id: userInfoButton
                 objectName: "userInfoButton"
-                x: -width
+                anchors.right: parent.left
                 width: parent.width
                 height: parent.height
                 icon.source: "icons/btn_userinfo.svg"
@@ -257,7 +257,9 @@ BasePage {
 
                     VoLabel {
                         id: german
+                        anchors.left: parent.left
                         width: parent.width - count.width - page.margin
+                        horizontalAlignment: Text.AlignLeft
                         text: row.germanName
                         font.pixelSize: 13 * page.textScale
                         color: AppColors.secondaryText

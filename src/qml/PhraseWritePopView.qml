@@ -45,9 +45,10 @@ VoPopView {
     TextField {
         id: textField
         objectName: "writeInput"
-        x: popUp.gap
+        anchors.left: parent.left
+        anchors.leftMargin: popUp.gap
         y: 4
-        width: submitBtn.x - 2 * popUp.gap
+        width: parent.width - submitBtn.width - 3 * popUp.gap
         height: 32
         font.pixelSize: 16
         text: check.input
@@ -61,7 +62,8 @@ VoPopView {
     Button {
         id: submitBtn
         objectName: "submitButton"
-        x: parent.width - width - popUp.gap
+        anchors.right: parent.right
+        anchors.rightMargin: popUp.gap
         y: 4
         height: 32
         text: qsTr("Submit")
@@ -73,7 +75,8 @@ VoPopView {
     VoLabel {
         id: wordLbl
         objectName: "wordLabel"
-        x: popUp.gap
+        anchors.left: parent.left
+        anchors.leftMargin: popUp.gap
         y: 40
         width: textField.width
         height: 26
@@ -91,7 +94,8 @@ VoPopView {
     Button {
         id: redoBtn
         objectName: "redoButton"
-        x: parent.width - width - popUp.gap
+        anchors.right: parent.right
+        anchors.rightMargin: popUp.gap
         y: 38
         height: 28
         visible: check.submitted

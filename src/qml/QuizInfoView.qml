@@ -30,6 +30,8 @@ Rectangle {
         Label {
             objectName: "progressLbl"
             width: grid.width / 2
+            // Named, so that Arabic puts it at the right edge of its column.
+            horizontalAlignment: Text.AlignLeft
             height: panel.lineHeight
             verticalAlignment: Text.AlignVCenter
             text: panel.quiz.progressText
@@ -56,6 +58,7 @@ Rectangle {
         Label {
             objectName: "limitedTimeLbl"
             width: grid.width / 2
+            horizontalAlignment: Text.AlignLeft
             height: panel.lineHeight
             verticalAlignment: Text.AlignVCenter
             text: panel.quiz.limitedTimeText

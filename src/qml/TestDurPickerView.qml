@@ -66,6 +66,8 @@ Popup {
     }
 
     contentItem: FocusScope {
+        LayoutMirroring.enabled: UiLanguage.rightToLeft
+        LayoutMirroring.childrenInherit: true
         focus: true
         Keys.onUpPressed: popup.step(-1)
         Keys.onDownPressed: popup.step(1)

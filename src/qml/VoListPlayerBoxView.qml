@@ -34,6 +34,7 @@ Item {
         }
         VoPlayerButton {
             objectName: "lastButton"
+            pointsAlongText: true
             width: bar.btnWidth
             height: bar.btnHeight
             touchHighlight: true
@@ -45,6 +46,7 @@ Item {
         VoPlayerButton {
             id: speedDownButton
             objectName: "speedDownButton"
+            pointsAlongText: true
             width: bar.btnWidth
             height: bar.btnHeight
             touchHighlight: true
@@ -65,6 +67,7 @@ Item {
         VoPlayerButton {
             id: speedUpButton
             objectName: "speedUpButton"
+            pointsAlongText: true
             width: bar.btnWidth
             height: bar.btnHeight
             touchHighlight: true
@@ -75,6 +78,7 @@ Item {
         }
         VoPlayerButton {
             objectName: "nextButton"
+            pointsAlongText: true
             width: bar.btnWidth
             height: bar.btnHeight
             touchHighlight: true

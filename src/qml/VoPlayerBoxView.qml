@@ -30,6 +30,7 @@ Item {
         VoPlayerButton {
             id: speedDownButton
             objectName: "speedDownButton"
+            pointsAlongText: true
             width: bar.btnWidth
             height: bar.btnHeight
             image: bar.engine.speedDownImage
@@ -48,6 +49,7 @@ Item {
         VoPlayerButton {
             id: speedUpButton
             objectName: "speedUpButton"
+            pointsAlongText: true
             width: bar.btnWidth
             height: bar.btnHeight
             image: bar.engine.speedUpImage

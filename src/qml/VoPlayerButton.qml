@@ -11,6 +11,9 @@ AbstractButton {
     property string image
     // The list bar's buttons show where the finger is.
     property bool touchHighlight: false
+    // Previous, next, slower and faster point the way of reading; play keeps pointing forward
+    // in time, as players do in every language.
+    property bool pointsAlongText: false
 
     padding: 0
     focusPolicy: Qt.NoFocus
@@ -20,6 +23,7 @@ AbstractButton {
         sourceSize.width: button.width
         sourceSize.height: button.height
         fillMode: Image.PreserveAspectFit
+        mirror: button.pointsAlongText && button.mirrored
     }
 
     background: Rectangle {

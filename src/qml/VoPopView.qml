@@ -29,6 +29,10 @@ Popup {
     }
 
     contentItem: Item {
+        // A pop-up sits over the screens, not in them, so it mirrors on its own.
+        LayoutMirroring.enabled: UiLanguage.rightToLeft
+        LayoutMirroring.childrenInherit: true
+
         Rectangle {
             id: header
             width: parent.width
@@ -52,7 +56,8 @@ Popup {
 
             IconButton {
                 objectName: "closeButton"
-                x: parent.width - popView.headH - 2
+                anchors.right: parent.right
+                anchors.rightMargin: 2
                 width: popView.headH
                 height: popView.headH
                 icon.source: "icons/btn_close.svg"

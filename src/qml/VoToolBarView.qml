@@ -49,6 +49,8 @@ Rectangle {
         IconButton {
             id: backButton
             objectName: "backButton"
+            anchors.left: parent.left
+            pointsAlongText: true
             width: toolBar.btnWidth
             height: toolBar.barHeight
             icon.source: "icons/btn_back.svg"
@@ -57,7 +59,8 @@ Rectangle {
         }
 
         Loader {
-            x: parent.width - toolBar.btnWidth - toolBar.marginW
+            anchors.right: parent.right
+            anchors.rightMargin: toolBar.marginW
             width: toolBar.btnWidth
             height: toolBar.barHeight
             sourceComponent: toolBar.rightButton

@@ -10,6 +10,7 @@
 
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QLocale>
 #include <QUrl>
 #include <cmath>
 
@@ -228,13 +229,17 @@ void BaseQuizViewController::updateScoreText(int s)
 
 QString BaseQuizViewController::progressText() const
 {
-    return tr("Progress") + QStringLiteral(": %1/%2").arg(m_progress).arg(questionCount());
+    const QLocale digits;
+    return tr("Progress") + QStringLiteral(": %1/%2").arg(digits.toString(m_progress),
+                                                          digits.toString(questionCount()));
 }
 
 QString BaseQuizViewController::scoreText() const
 {
+    const QLocale digits;
     return tr("Score") +
-           QStringLiteral(": %1/%2").arg(m_score).arg(pointsPerAnswer * questionCount());
+           QStringLiteral(": %1/%2").arg(digits.toString(m_score),
+                                         digits.toString(pointsPerAnswer * questionCount()));
 }
 
 QString BaseQuizViewController::scoreStyledText() const

@@ -122,5 +122,15 @@ TEST_F(LanguagesTest, MainScreenQuizAndResultsInFourScripts)
 
         QTest::keyClick(app.window(), Qt::Key_Escape);
         ASSERT_TRUE(app.waitForDepth(1));
+
+        app.tapCentre(AppWindow::listRow(findItem(app.currentPage(), u"categoryList"_s), 0));
+        ASSERT_TRUE(app.waitForDepth(2));
+        (void)app.screenshot(u"category-"_s + code);
+        expectNothingEnglish(app, code, u"category"_s);
+        const qreal previous = findItem(app.currentPage(), u"lastButton"_s)->mapToScene({}).x();
+        const qreal next = findItem(app.currentPage(), u"nextButton"_s)->mapToScene({}).x();
+        EXPECT_EQ(previous > next, code == u"ar"_s) << qPrintable(code) << ": the player bar";
+        QTest::keyClick(app.window(), Qt::Key_Escape);
+        ASSERT_TRUE(app.waitForDepth(1));
     }
 }

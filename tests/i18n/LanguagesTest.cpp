@@ -85,6 +85,11 @@ TEST_F(LanguagesTest, SettingsSwitchesEveryScreenAtOnceToEachMotherLanguage)
         if (codes.at(index) != u"en"_s)
             expectNothingEnglish(app, codes.at(index), u"settings over the main screen"_s);
     }
+
+    // A language whose translation is missing from the build shows English, not the last one.
+    settings->setLanguageIndex(static_cast<int>(codes.indexOf(u"ja"_s)));
+    EXPECT_FALSE(UiLanguage::instance().apply(u"xx"_s));
+    EXPECT_EQ(textOf(app.currentPage(), u"toolBarTitle"_s), u"Settings"_s);
 }
 
 // Each script needs its fonts installed, or the learner sees boxes; Arabic mirrors the screens.

@@ -17,13 +17,28 @@ BasePage {
 
     title: controller.title
     rightButton: Component {
-        IconButton {
-            id: quizButton
-            objectName: "unitQuizButton"
-            icon.source: "icons/btn_quiz.svg"
-            Accessible.name: qsTr("Unit Quiz")
-            onClicked: page.open(quizMenu, { categoryId: controller.categoryId },
-                                 quizButton.mapToItem(page, Qt.point(width / 2, height / 2)))
+        Item {
+            IconButton {
+                id: shadowButton
+                objectName: "shadowButton"
+                anchors.right: parent.left
+                width: parent.width
+                height: parent.height
+                icon.source: "icons/btn_shadow.svg"
+                Accessible.name: qsTr("Shadow")
+                onClicked: page.open(shadowing, { categoryId: controller.categoryId, phraseIndex: 0 },
+                                     shadowButton.mapToItem(page, Qt.point(width / 2, height / 2)))
+            }
+            IconButton {
+                id: quizButton
+                objectName: "unitQuizButton"
+                width: parent.width
+                height: parent.height
+                icon.source: "icons/btn_quiz.svg"
+                Accessible.name: qsTr("Unit Quiz")
+                onClicked: page.open(quizMenu, { categoryId: controller.categoryId },
+                                     quizButton.mapToItem(page, Qt.point(width / 2, height / 2)))
+            }
         }
     }
 
@@ -34,6 +49,10 @@ BasePage {
     Component {
         id: quizMenu
         QuizOutlinePage {}
+    }
+    Component {
+        id: shadowing
+        ShadowingPage {}
     }
 
     // The sound belongs to this screen: it stops when another screen covers it or it goes.

@@ -20,6 +20,21 @@ BasePage {
     readonly property real buttonSize: Math.min(48 * textScale, (width - 7 * 10 * LayoutMetrics.scaleX) / 6)
 
     title: controller.title
+    rightButton: Component {
+        IconButton {
+            id: shadowButton
+            objectName: "shadowButton"
+            icon.source: "icons/btn_shadow.svg"
+            Accessible.name: qsTr("Shadow")
+            onClicked: page.open(shadowing, { categoryId: page.categoryId, phraseIndex: controller.currentIndex },
+                                 shadowButton.mapToItem(page, Qt.point(width / 2, height / 2)))
+        }
+    }
+
+    Component {
+        id: shadowing
+        ShadowingPage {}
+    }
 
     Component.onCompleted: controller.open(categoryId, phraseIndex)
     StackView.onDeactivating: {

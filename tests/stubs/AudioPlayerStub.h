@@ -19,7 +19,12 @@ public:
         : m_path(std::move(path))
     {}
 
-    void play() override { m_playing = true; }
+    void play() override
+    {
+        m_playing = true;
+        if (finishesAtOnce)
+            QMetaObject::invokeMethod(this, &AudioPlayerStub::finishPlaying, Qt::QueuedConnection);
+    }
     void pause() override { m_playing = false; }
     void stop() override { m_playing = false; }
     void setCurrentTime(double seconds) override { m_time = seconds; }
@@ -34,6 +39,8 @@ public:
     [[nodiscard]] int numberOfLoops() const override { return m_loops; }
 
     [[nodiscard]] const QString &path() const { return m_path; }
+    /// Ends each play as soon as the event loop runs, for screens that wait for the end.
+    bool finishesAtOnce{false};
     void setDuration(double seconds) { m_duration = seconds; }
     void finishPlaying()
     {
@@ -61,6 +68,7 @@ public:
             if (unplayable.contains(path))
                 return nullptr;
             auto player = std::make_unique<AudioPlayerStub>(path);
+            player->finishesAtOnce = finishAtOnce;
             last = player.get();
             return player;
         });
@@ -71,6 +79,7 @@ public:
 
     QStringList requested;
     QStringList unplayable;
+    bool finishAtOnce{false};
     /// The player made last; it belongs to whoever asked for it, so it is valid only while they
     /// keep it.
     AudioPlayerStub *last{nullptr};

@@ -7,6 +7,8 @@
 #include "audio/MicrophonePermission.h"
 #include "content/AppCommon.h"
 #include "content/UserInfoFile.h"
+#include "practice/EndOfSpeech.h"
+#include "practice/ShadowingVC.h"
 #include "quiz/QuizUiTest.h"
 #include "speaking/Phrase2SpeakVC.h"
 
@@ -17,6 +19,7 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QQuickWindow>
+#include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <limits>
@@ -280,4 +283,89 @@ TEST_F(SpeakQuizTest, WithoutAMicrophoneTheAlertOffersTheSoundSettings)
     app.tapCentre(findItem(root, u"microphoneAlertSettings"_s));
     EXPECT_EQ(opened, 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !alert->property("visible").toBool(); }));
+}
+
+// Each row: the levels heard every 0.05 s, and the poll at which the take ends (-1: never).
+TEST(EndOfSpeech, ATakeEndsAfterQuietThatFollowsSpeechOrAtTheCap)
+{
+    struct Take {
+        const char *what;
+        QList<float> levels;
+        int endsAt;
+        EndOfSpeech::Verdict verdict;
+    };
+    const auto run = [](float level, int polls) {
+        return QList<float>(polls, level);
+    };
+    const QList<Take> takes{
+        {"speech then digital silence", run(-10, 10) + run(-160, 20), 23,
+         EndOfSpeech::Verdict::Finished},
+        {"a click is not speech", run(-10, 2) + run(-160, 60), 39, EndOfSpeech::Verdict::CappedOff},
+        {"a noisy room goes quiet once the voice stood out",
+         run(-35, 10) + run(-8, 10) + run(-35, 20), 33, EndOfSpeech::Verdict::Finished},
+        {"a quiet room's murmur is not speech", run(-50, 60), 39, EndOfSpeech::Verdict::CappedOff},
+        {"still speaking at the cap", run(-12, 60), 39, EndOfSpeech::Verdict::CappedOff},
+    };
+    for (const Take &take : takes) {
+        EndOfSpeech detector(2.0);
+        int endedAt = -1;
+        EndOfSpeech::Verdict verdict = EndOfSpeech::Verdict::Listening;
+        for (int poll = 0; poll < take.levels.size() && endedAt < 0; ++poll) {
+            verdict = detector.feed(take.levels.at(poll), 0.05);
+            if (verdict != EndOfSpeech::Verdict::Listening)
+                endedAt = poll;
+        }
+        EXPECT_EQ(endedAt, take.endsAt) << take.what;
+        EXPECT_EQ(verdict, take.verdict) << take.what;
+    }
+}
+
+// The whole category: each phrase sounds, the learner's take (the phrase's own recording through
+// the file microphone) ends by itself when they fall silent, is marked and counted, and the next
+// phrase follows without a tap; Space pauses and resumes the phrase under way.
+TEST_F(SpeakQuizTest, ShadowingRunsACategoryHandsFreeMarkingAndCountingEveryTake)
+{
+    players.finishAtOnce = true;
+    const qint64 readings = userInfoInt(UserInfoKey::readCount);
+    app.tapCentre(AppWindow::listRow(item(u"categoryList"_s), 0));
+    ASSERT_TRUE(app.waitForDepth(2));
+    const QString categoryId = app.currentPage()->property("categoryId").toString();
+    const QList<PhraseInfo *> &phrases = *loadPhrases(categoryId);
+    speak(soundPath(*phrases.at(0)));
+    app.tapCentre(findItem(app.window()->contentItem(), u"shadowButton"_s));
+    ASSERT_TRUE(app.waitForDepth(3));
+    auto *shadowing = app.currentPage()->findChild<ShadowingVC *>();
+    ASSERT_NE(shadowing, nullptr);
+    shadowing->setShowMilliseconds(10);
+    QObject::connect(shadowing, &ShadowingVC::phraseChanged, &context,
+                     [&] { speak(soundPath(*phrases.at(shadowing->currentIndex()))); });
+    QList<int> marks;
+    QObject::connect(shadowing, &ShadowingVC::marked, &context, [&] {
+        marks.append(shadowing->recording()->comparison()->score());
+        if (marks.size() == 1)
+            (void)app.screenshot(u"shadowing-mark"_s);
+    });
+
+    // Paused while the second phrase is being said, then resumed: that phrase starts again.
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            return shadowing->currentIndex() == 1 &&
+                   shadowing->stage() == ShadowingVC::Stage::Speaking;
+        },
+        30000));
+    QTest::keyClick(app.window(), Qt::Key_Space);
+    EXPECT_TRUE(shadowing->paused());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !shadowing->recording()->recording(); }));
+    EXPECT_EQ(textOf(app.currentPage(), u"pauseButton"_s), u"Resume"_s);
+    (void)app.screenshot(u"shadowing-paused"_s);
+    app.tapCentre(findItem(app.currentPage(), u"pauseArea"_s));
+    EXPECT_FALSE(shadowing->paused());
+    EXPECT_EQ(shadowing->currentIndex(), 1);
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shadowing->stage() == ShadowingVC::Stage::Finished; },
+                                120000));
+    EXPECT_EQ(marks.size(), phrases.size());
+    for (int mark : std::as_const(marks))
+        EXPECT_GE(mark, 7) << "a phrase's own recording said back";
+    EXPECT_EQ(userInfoInt(UserInfoKey::readCount), readings + phrases.size());
 }

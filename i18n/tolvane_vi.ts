@@ -5,126 +5,130 @@
     <name>BaseQuizViewController</name>
     <message>
         <source>This unit cannot be found, so there is nothing to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không tìm thấy bài này nên không có câu hỏi nào.</translation>
     </message>
     <message>
         <source>A quiz needs %1 phrases and there are fewer here, so there is nothing to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bài kiểm tra cần %1 câu nhưng ở đây không đủ nên không có câu hỏi nào.</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiến độ</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Điểm</translation>
     </message>
     <message>
         <source>Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Kết thúc</translation>
     </message>
 </context>
 <context>
     <name>CategoryPage</name>
     <message>
         <source>Unit Quiz</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiểm tra bài</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Nói theo</translation>
     </message>
 </context>
 <context>
     <name>CategoryPlayOptions</name>
     <message>
         <source>Play each</source>
-        <translation type="unfinished"></translation>
+        <translation>Phát mỗi câu</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lần</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Nghỉ</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 giây</translation>
     </message>
 </context>
 <context>
     <name>Listen2SelectPage</name>
     <message>
         <source>Listen And Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Nghe và chọn</translation>
     </message>
     <message>
         <source>Play the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phát câu</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gửi</translation>
     </message>
 </context>
 <context>
     <name>Listen2WritePage</name>
     <message>
         <source>Listen And Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Nghe và viết</translation>
     </message>
     <message>
         <source>Play the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phát câu</translation>
     </message>
     <message>
         <source>Type what you hear</source>
-        <translation type="unfinished"></translation>
+        <translation>Nhập những gì bạn nghe</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gửi</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane</translation>
     </message>
     <message>
         <source>User Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Thông tin người dùng</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Cài đặt</translation>
     </message>
     <message>
         <source>Experience</source>
-        <translation type="unfinished"></translation>
+        <translation>Kinh nghiệm</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiểm tra</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Chủ đề</translation>
     </message>
     <message numerus="yes">
         <source>%n phrases</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n câu</numerusform>
         </translation>
     </message>
 </context>
@@ -132,311 +136,357 @@
     <name>MicrophonePermission</name>
     <message>
         <source>Microphone Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Không được phép dùng micrô</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Hủy</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Mở Cài đặt</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakPage</name>
     <message>
         <source>Read Phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Đọc câu</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gửi</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakResultCellView</name>
     <message>
         <source>Show Voiceprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Xem dấu giọng</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakVC</name>
     <message>
         <source>Tap and hold to speak.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nhấn giữ để nói.</translation>
     </message>
 </context>
 <context>
     <name>PhraseCardPage</name>
     <message>
         <source>Previous phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Câu trước</translation>
     </message>
     <message>
         <source>Show the German text</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiện câu tiếng Đức</translation>
     </message>
     <message>
         <source>Hide the German text</source>
-        <translation type="unfinished"></translation>
+        <translation>Ẩn câu tiếng Đức</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Phát</translation>
     </message>
     <message>
         <source>Write the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Viết câu</translation>
     </message>
     <message>
         <source>Next phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Câu tiếp theo</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Nói theo</translation>
     </message>
 </context>
 <context>
     <name>PhraseCardView</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
     <name>PhraseRecording</name>
     <message>
         <source>Your voice cannot be recorded: there is no folder to keep it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không thể ghi âm: không có thư mục để lưu.</translation>
     </message>
 </context>
 <context>
     <name>PhraseWritePopView</name>
     <message>
         <source>Write what you hear</source>
-        <translation type="unfinished"></translation>
+        <translation>Viết những gì bạn nghe</translation>
     </message>
     <message>
         <source>Type the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Nhập câu</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gửi</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Làm lại</translation>
     </message>
 </context>
 <context>
     <name>QuizOutlineVC</name>
     <message>
         <source>Listen And Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Nghe và chọn</translation>
     </message>
     <message>
         <source>Listen And Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Nghe và viết</translation>
     </message>
     <message>
         <source>Reorder Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Sắp xếp từ</translation>
     </message>
     <message>
         <source>Read Phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Đọc câu</translation>
     </message>
     <message>
         <source>Foreign Language -&gt; Mother Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Đức → Tiếng Việt</translation>
     </message>
     <message>
         <source>Mother Language -&gt; Foreign Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Việt → Tiếng Đức</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiểm tra</translation>
     </message>
     <message>
         <source>Unit Quiz</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiểm tra bài</translation>
     </message>
 </context>
 <context>
     <name>RatingPromptDialog</name>
     <message>
         <source>Rate Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Đánh giá Tolvane</translation>
     </message>
     <message>
         <source>If you enjoy learning with Tolvane, would you take a moment to rate it? Thank you for your support!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nếu bạn thích học với Tolvane, bạn có thể dành chút thời gian đánh giá không? Cảm ơn bạn đã ủng hộ!</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Đánh giá</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Để sau</translation>
     </message>
     <message>
         <source>No thanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Không, cảm ơn</translation>
     </message>
 </context>
 <context>
     <name>ReadingFeedback</name>
     <message>
         <source>not judged</source>
-        <translation type="unfinished"></translation>
+        <translation>chưa chấm</translation>
     </message>
     <message>
         <source>heard well</source>
-        <translation type="unfinished"></translation>
+        <translation>nghe rõ</translation>
     </message>
     <message>
         <source>unclear</source>
-        <translation type="unfinished"></translation>
+        <translation>chưa rõ</translation>
     </message>
     <message>
         <source>missing</source>
-        <translation type="unfinished"></translation>
+        <translation>thiếu</translation>
     </message>
 </context>
 <context>
     <name>RecordButton</name>
     <message>
         <source>Hold to speak</source>
-        <translation type="unfinished"></translation>
+        <translation>Giữ để nói</translation>
     </message>
 </context>
 <context>
     <name>SettingPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Cài đặt</translation>
     </message>
     <message>
         <source>Listening</source>
-        <translation type="unfinished"></translation>
+        <translation>Nghe</translation>
     </message>
     <message>
         <source>Playback speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tốc độ phát</translation>
     </message>
     <message>
         <source>%1x</source>
-        <translation type="unfinished"></translation>
+        <translation>%1x</translation>
     </message>
     <message>
         <source>Mother language</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng mẹ đẻ</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiểm tra</translation>
     </message>
     <message>
         <source>Test duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Thời gian kiểm tra</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n giây</numerusform>
         </translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>Bộ nhớ</translation>
     </message>
     <message>
         <source>Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Bộ nhớ đệm</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Xóa</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Giới thiệu</translation>
     </message>
     <message>
         <source>Send feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Gửi góp ý</translation>
     </message>
     <message>
         <source>Rate Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Đánh giá Tolvane</translation>
+    </message>
+</context>
+<context>
+    <name>ShadowingPage</name>
+    <message>
+        <source>Shadow</source>
+        <translation>Nói theo</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Tiếp tục</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Tạm dừng</translation>
+    </message>
+</context>
+<context>
+    <name>ShadowingVC</name>
+    <message>
+        <source>Paused</source>
+        <translation>Đã tạm dừng</translation>
+    </message>
+    <message>
+        <source>Listen</source>
+        <translation>Hãy nghe</translation>
+    </message>
+    <message>
+        <source>Now you</source>
+        <translation>Đến lượt bạn</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Đang chấm</translation>
+    </message>
+    <message>
+        <source>Well done!</source>
+        <translation>Làm tốt lắm!</translation>
     </message>
 </context>
 <context>
     <name>SpectrumCompView</name>
     <message>
         <source>No voice was heard in your recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không nghe thấy giọng nói trong bản ghi của bạn.</translation>
     </message>
     <message>
         <source>This phrase cannot be compared: its speech model could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không thể so sánh câu này: không tạo được mô hình giọng nói.</translation>
     </message>
     <message>
         <source>Your recording could not be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không tìm thấy bản ghi của bạn.</translation>
     </message>
     <message>
         <source>Your recording is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bản ghi của bạn trống.</translation>
     </message>
     <message>
         <source>Your recording could not be read, or it is longer than a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không đọc được bản ghi của bạn, hoặc bản ghi dài hơn một phút.</translation>
     </message>
     <message>
         <source>The original voice could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không đọc được giọng mẫu.</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Điểm</translation>
     </message>
 </context>
 <context>
     <name>SpectrumCompViewPopup</name>
     <message>
         <source>Original Voice</source>
-        <translation type="unfinished"></translation>
+        <translation>Giọng mẫu</translation>
     </message>
     <message>
         <source>My Voice</source>
-        <translation type="unfinished"></translation>
+        <translation>Giọng của tôi</translation>
     </message>
 </context>
 <context>
     <name>TestDurPickerView</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Hủy</translation>
     </message>
     <message>
         <source>Test Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Thời gian kiểm tra</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n giây</numerusform>
         </translation>
     </message>
 </context>
@@ -444,185 +494,185 @@
     <name>UserInfoPage</name>
     <message>
         <source>User Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Thông tin người dùng</translation>
     </message>
     <message>
         <source>Experience</source>
-        <translation type="unfinished"></translation>
+        <translation>Kinh nghiệm</translation>
     </message>
     <message>
         <source>How it was earned</source>
-        <translation type="unfinished"></translation>
+        <translation>Cách đạt được</translation>
     </message>
 </context>
 <context>
     <name>UserInfoVC</name>
     <message>
         <source>Start App</source>
-        <translation type="unfinished"></translation>
+        <translation>Mở ứng dụng</translation>
     </message>
     <message>
         <source>Listen Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Nghe</translation>
     </message>
     <message>
         <source>Write Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Viết</translation>
     </message>
     <message>
         <source>Read Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Đọc</translation>
     </message>
     <message>
         <source>Quiz Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Số lần kiểm tra</translation>
     </message>
     <message>
         <source>Quiz Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Điểm kiểm tra</translation>
     </message>
     <message>
         <source>Review App</source>
-        <translation type="unfinished"></translation>
+        <translation>Đánh giá ứng dụng</translation>
     </message>
 </context>
 <context>
     <name>UserRecord</name>
     <message>
         <source>Your progress file was damaged, so Tolvane went back to the copy it kept. At most your last step is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tệp tiến độ của bạn bị hỏng nên Tolvane đã quay về bản sao đã lưu. Nhiều nhất chỉ mất bước cuối cùng.</translation>
     </message>
     <message>
         <source>Your progress file was damaged, so Tolvane repaired it: everything it could read is kept. The damaged file is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tệp tiến độ của bạn bị hỏng nên Tolvane đã sửa: mọi thứ đọc được đều được giữ lại. Tệp hỏng được lưu thành %1.</translation>
     </message>
     <message>
         <source>Your progress file was damaged and no good copy was left, so Tolvane started your progress again. The damaged file is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tệp tiến độ của bạn bị hỏng và không còn bản sao tốt nên Tolvane đã bắt đầu lại tiến độ. Tệp hỏng được lưu thành %1.</translation>
     </message>
 </context>
 <context>
     <name>VoAudioRecorder</name>
     <message>
         <source>There is no microphone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không có micrô.</translation>
     </message>
     <message>
         <source>The microphone went away before you had said anything. Please record again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Micrô bị ngắt trước khi bạn kịp nói. Vui lòng ghi âm lại.</translation>
     </message>
     <message>
         <source>The recording folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Không thể tạo thư mục ghi âm %1.</translation>
     </message>
 </context>
 <context>
     <name>VoListPlayerBoxView</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Dừng</translation>
     </message>
     <message>
         <source>Previous phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Câu trước</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Chậm hơn</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Phát hoặc tạm dừng</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Nhanh hơn</translation>
     </message>
     <message>
         <source>Next phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Câu tiếp theo</translation>
     </message>
     <message>
         <source>Repeat mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Chế độ lặp</translation>
     </message>
 </context>
 <context>
     <name>VoPSRecognizer</name>
     <message>
         <source>No voice detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Không phát hiện giọng nói</translation>
     </message>
     <message>
         <source>No correct words detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Không phát hiện từ đúng nào</translation>
     </message>
     <message>
         <source>Problems a bit in word sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Thứ tự từ hơi có vấn đề</translation>
     </message>
 </context>
 <context>
     <name>VoPlayerBoxView</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Dừng</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Chậm hơn</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Phát hoặc tạm dừng</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Nhanh hơn</translation>
     </message>
 </context>
 <context>
     <name>VoPopView</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Đóng</translation>
     </message>
 </context>
 <context>
     <name>VoToolBarView</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Quay lại</translation>
     </message>
 </context>
 <context>
     <name>Word2WordPage</name>
     <message>
         <source>Foreign Language -&gt; Mother Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Đức → Tiếng Việt</translation>
     </message>
     <message>
         <source>Mother Language -&gt; Foreign Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Việt → Tiếng Đức</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gửi</translation>
     </message>
 </context>
 <context>
     <name>WordOrderAdjustPage</name>
     <message>
         <source>Reorder Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Sắp xếp từ</translation>
     </message>
     <message>
         <source>Drag the word to reorder it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kéo từ để sắp xếp lại.</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gửi</translation>
     </message>
 </context>
 </TS>

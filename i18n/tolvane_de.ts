@@ -5,127 +5,131 @@
     <name>BaseQuizViewController</name>
     <message>
         <source>This unit cannot be found, so there is nothing to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Lektion wurde nicht gefunden, daher gibt es nichts zu beantworten.</translation>
     </message>
     <message>
         <source>A quiz needs %1 phrases and there are fewer here, so there is nothing to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Quiz braucht %1 Sätze, hier sind es weniger – daher gibt es nichts zu beantworten.</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorbei</translation>
     </message>
 </context>
 <context>
     <name>CategoryPage</name>
     <message>
         <source>Unit Quiz</source>
-        <translation type="unfinished"></translation>
+        <translation>Lektionsquiz</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Nachsprechen</translation>
     </message>
 </context>
 <context>
     <name>CategoryPlayOptions</name>
     <message>
         <source>Play each</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden Satz</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
     <name>Listen2SelectPage</name>
     <message>
         <source>Listen And Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Hören und wählen</translation>
     </message>
     <message>
         <source>Play the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz abspielen</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenden</translation>
     </message>
 </context>
 <context>
     <name>Listen2WritePage</name>
     <message>
         <source>Listen And Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Hören und schreiben</translation>
     </message>
     <message>
         <source>Play the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz abspielen</translation>
     </message>
     <message>
         <source>Type what you hear</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreib, was du hörst</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenden</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane</translation>
     </message>
     <message>
         <source>User Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Profil</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Experience</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfahrung</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorien</translation>
     </message>
     <message numerus="yes">
         <source>%n phrases</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Satz</numerusform>
+            <numerusform>%n Sätze</numerusform>
         </translation>
     </message>
 </context>
@@ -133,313 +137,359 @@
     <name>MicrophonePermission</name>
     <message>
         <source>Microphone Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Zugriff auf das Mikrofon</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakPage</name>
     <message>
         <source>Read Phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz vorlesen</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenden</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakResultCellView</name>
     <message>
         <source>Show Voiceprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Stimmprofil zeigen</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakVC</name>
     <message>
         <source>Tap and hold to speak.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Sprechen gedrückt halten.</translation>
     </message>
 </context>
 <context>
     <name>PhraseCardPage</name>
     <message>
         <source>Previous phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriger Satz</translation>
     </message>
     <message>
         <source>Show the German text</source>
-        <translation type="unfinished"></translation>
+        <translation>Deutschen Text zeigen</translation>
     </message>
     <message>
         <source>Hide the German text</source>
-        <translation type="unfinished"></translation>
+        <translation>Deutschen Text ausblenden</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>Write the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz schreiben</translation>
     </message>
     <message>
         <source>Next phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Satz</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Nachsprechen</translation>
     </message>
 </context>
 <context>
     <name>PhraseCardView</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
     <name>PhraseRecording</name>
     <message>
         <source>Your voice cannot be recorded: there is no folder to keep it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deine Stimme kann nicht aufgenommen werden: Es gibt keinen Ordner zum Speichern.</translation>
     </message>
 </context>
 <context>
     <name>PhraseWritePopView</name>
     <message>
         <source>Write what you hear</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreib, was du hörst</translation>
     </message>
     <message>
         <source>Type the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz eingeben</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenden</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>
     <name>QuizOutlineVC</name>
     <message>
         <source>Listen And Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Hören und wählen</translation>
     </message>
     <message>
         <source>Listen And Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Hören und schreiben</translation>
     </message>
     <message>
         <source>Reorder Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter ordnen</translation>
     </message>
     <message>
         <source>Read Phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz vorlesen</translation>
     </message>
     <message>
         <source>Foreign Language -&gt; Mother Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Fremdsprache → Muttersprache</translation>
     </message>
     <message>
         <source>Mother Language -&gt; Foreign Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Muttersprache → Fremdsprache</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz</translation>
     </message>
     <message>
         <source>Unit Quiz</source>
-        <translation type="unfinished"></translation>
+        <translation>Lektionsquiz</translation>
     </message>
 </context>
 <context>
     <name>RatingPromptDialog</name>
     <message>
         <source>Rate Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane bewerten</translation>
     </message>
     <message>
         <source>If you enjoy learning with Tolvane, would you take a moment to rate it? Thank you for your support!</source>
-        <translation type="unfinished"></translation>
+        <translation>Lernst du gern mit Tolvane? Dann nimm dir doch einen Moment für eine Bewertung. Danke für deine Unterstützung!</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewerten</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
     <message>
         <source>No thanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein, danke</translation>
     </message>
 </context>
 <context>
     <name>ReadingFeedback</name>
     <message>
         <source>not judged</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bewertet</translation>
     </message>
     <message>
         <source>heard well</source>
-        <translation type="unfinished"></translation>
+        <translation>gut verstanden</translation>
     </message>
     <message>
         <source>unclear</source>
-        <translation type="unfinished"></translation>
+        <translation>undeutlich</translation>
     </message>
     <message>
         <source>missing</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlt</translation>
     </message>
 </context>
 <context>
     <name>RecordButton</name>
     <message>
         <source>Hold to speak</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Sprechen halten</translation>
     </message>
 </context>
 <context>
     <name>SettingPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Listening</source>
-        <translation type="unfinished"></translation>
+        <translation>Hören</translation>
     </message>
     <message>
         <source>Playback speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabetempo</translation>
     </message>
     <message>
         <source>%1x</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>Mother language</source>
-        <translation type="unfinished"></translation>
+        <translation>Muttersprache</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz</translation>
     </message>
     <message>
         <source>Test duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Quizdauer</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Sekunde</numerusform>
+            <numerusform>%n Sekunden</numerusform>
         </translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicher</translation>
     </message>
     <message>
         <source>Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>Send feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Feedback senden</translation>
     </message>
     <message>
         <source>Rate Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane bewerten</translation>
+    </message>
+</context>
+<context>
+    <name>ShadowingPage</name>
+    <message>
+        <source>Shadow</source>
+        <translation>Nachsprechen</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+</context>
+<context>
+    <name>ShadowingVC</name>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Listen</source>
+        <translation>Zuhören</translation>
+    </message>
+    <message>
+        <source>Now you</source>
+        <translation>Jetzt du</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Wird geprüft</translation>
+    </message>
+    <message>
+        <source>Well done!</source>
+        <translation>Gut gemacht!</translation>
     </message>
 </context>
 <context>
     <name>SpectrumCompView</name>
     <message>
         <source>No voice was heard in your recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>In deiner Aufnahme war keine Stimme zu hören.</translation>
     </message>
     <message>
         <source>This phrase cannot be compared: its speech model could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Satz kann nicht verglichen werden: Sein Sprachmodell ließ sich nicht erstellen.</translation>
     </message>
     <message>
         <source>Your recording could not be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deine Aufnahme wurde nicht gefunden.</translation>
     </message>
     <message>
         <source>Your recording is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deine Aufnahme ist leer.</translation>
     </message>
     <message>
         <source>Your recording could not be read, or it is longer than a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deine Aufnahme ist nicht lesbar oder länger als eine Minute.</translation>
     </message>
     <message>
         <source>The original voice could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Originalstimme ist nicht lesbar.</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
 </context>
 <context>
     <name>SpectrumCompViewPopup</name>
     <message>
         <source>Original Voice</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalstimme</translation>
     </message>
     <message>
         <source>My Voice</source>
-        <translation type="unfinished"></translation>
+        <translation>Meine Stimme</translation>
     </message>
 </context>
 <context>
     <name>TestDurPickerView</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Test Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Quizdauer</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Sekunde</numerusform>
+            <numerusform>%n Sekunden</numerusform>
         </translation>
     </message>
 </context>
@@ -447,185 +497,185 @@
     <name>UserInfoPage</name>
     <message>
         <source>User Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Profil</translation>
     </message>
     <message>
         <source>Experience</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfahrung</translation>
     </message>
     <message>
         <source>How it was earned</source>
-        <translation type="unfinished"></translation>
+        <translation>So hast du sie gesammelt</translation>
     </message>
 </context>
 <context>
     <name>UserInfoVC</name>
     <message>
         <source>Start App</source>
-        <translation type="unfinished"></translation>
+        <translation>App-Starts</translation>
     </message>
     <message>
         <source>Listen Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehört</translation>
     </message>
     <message>
         <source>Write Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschrieben</translation>
     </message>
     <message>
         <source>Read Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesprochen</translation>
     </message>
     <message>
         <source>Quiz Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Quizrunden</translation>
     </message>
     <message>
         <source>Quiz Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Quizpunkte</translation>
     </message>
     <message>
         <source>Review App</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewertung</translation>
     </message>
 </context>
 <context>
     <name>UserRecord</name>
     <message>
         <source>Your progress file was damaged, so Tolvane went back to the copy it kept. At most your last step is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deine Fortschrittsdatei war beschädigt, daher hat Tolvane die aufbewahrte Kopie genommen. Höchstens dein letzter Schritt fehlt.</translation>
     </message>
     <message>
         <source>Your progress file was damaged, so Tolvane repaired it: everything it could read is kept. The damaged file is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deine Fortschrittsdatei war beschädigt, daher hat Tolvane sie repariert: Alles Lesbare bleibt erhalten. Die beschädigte Datei liegt als %1 bereit.</translation>
     </message>
     <message>
         <source>Your progress file was damaged and no good copy was left, so Tolvane started your progress again. The damaged file is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deine Fortschrittsdatei war beschädigt und es gab keine gute Kopie mehr, daher beginnt dein Fortschritt neu. Die beschädigte Datei liegt als %1 bereit.</translation>
     </message>
 </context>
 <context>
     <name>VoAudioRecorder</name>
     <message>
         <source>There is no microphone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Mikrofon da.</translation>
     </message>
     <message>
         <source>The microphone went away before you had said anything. Please record again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Mikrofon war weg, bevor du etwas gesagt hast. Bitte nimm noch einmal auf.</translation>
     </message>
     <message>
         <source>The recording folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Aufnahmeordner %1 kann nicht angelegt werden.</translation>
     </message>
 </context>
 <context>
     <name>VoListPlayerBoxView</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>Previous phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriger Satz</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen oder anhalten</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller</translation>
     </message>
     <message>
         <source>Next phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Satz</translation>
     </message>
     <message>
         <source>Repeat mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholmodus</translation>
     </message>
 </context>
 <context>
     <name>VoPSRecognizer</name>
     <message>
         <source>No voice detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Stimme erkannt</translation>
     </message>
     <message>
         <source>No correct words detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine richtigen Wörter erkannt</translation>
     </message>
     <message>
         <source>Problems a bit in word sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleine Probleme bei der Wortfolge</translation>
     </message>
 </context>
 <context>
     <name>VoPlayerBoxView</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen oder anhalten</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller</translation>
     </message>
 </context>
 <context>
     <name>VoPopView</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>VoToolBarView</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
 </context>
 <context>
     <name>Word2WordPage</name>
     <message>
         <source>Foreign Language -&gt; Mother Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Fremdsprache → Muttersprache</translation>
     </message>
     <message>
         <source>Mother Language -&gt; Foreign Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Muttersprache → Fremdsprache</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenden</translation>
     </message>
 </context>
 <context>
     <name>WordOrderAdjustPage</name>
     <message>
         <source>Reorder Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter ordnen</translation>
     </message>
     <message>
         <source>Drag the word to reorder it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zieh das Wort an seinen Platz.</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenden</translation>
     </message>
 </context>
 </TS>

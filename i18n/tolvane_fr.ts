@@ -5,127 +5,131 @@
     <name>BaseQuizViewController</name>
     <message>
         <source>This unit cannot be found, so there is nothing to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette unité est introuvable : il n’y a aucune question.</translation>
     </message>
     <message>
         <source>A quiz needs %1 phrases and there are fewer here, so there is nothing to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un quiz demande %1 phrases et il y en a moins ici : il n’y a aucune question.</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Score</translation>
     </message>
     <message>
         <source>Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
 </context>
 <context>
     <name>CategoryPage</name>
     <message>
         <source>Unit Quiz</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz de l’unité</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Répéter</translation>
     </message>
 </context>
 <context>
     <name>CategoryPlayOptions</name>
     <message>
         <source>Play each</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire chaque</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
     <name>Listen2SelectPage</name>
     <message>
         <source>Listen And Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter et choisir</translation>
     </message>
     <message>
         <source>Play the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire la phrase</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider</translation>
     </message>
 </context>
 <context>
     <name>Listen2WritePage</name>
     <message>
         <source>Listen And Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter et écrire</translation>
     </message>
     <message>
         <source>Play the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire la phrase</translation>
     </message>
     <message>
         <source>Type what you hear</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapez ce que vous entendez</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolvane</translation>
     </message>
     <message>
         <source>User Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Mon profil</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Experience</source>
-        <translation type="unfinished"></translation>
+        <translation>Expérience</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégories</translation>
     </message>
     <message numerus="yes">
         <source>%n phrases</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n phrase</numerusform>
+            <numerusform>%n phrases</numerusform>
         </translation>
     </message>
 </context>
@@ -133,313 +137,359 @@
     <name>MicrophonePermission</name>
     <message>
         <source>Microphone Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès au micro refusé</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les réglages</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakPage</name>
     <message>
         <source>Read Phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire à voix haute</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakResultCellView</name>
     <message>
         <source>Show Voiceprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir l’empreinte vocale</translation>
     </message>
 </context>
 <context>
     <name>Phrase2SpeakVC</name>
     <message>
         <source>Tap and hold to speak.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenez appuyé pour parler.</translation>
     </message>
 </context>
 <context>
     <name>PhraseCardPage</name>
     <message>
         <source>Previous phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phrase précédente</translation>
     </message>
     <message>
         <source>Show the German text</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’allemand</translation>
     </message>
     <message>
         <source>Hide the German text</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer l’allemand</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Write the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire la phrase</translation>
     </message>
     <message>
         <source>Next phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phrase suivante</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Répéter</translation>
     </message>
 </context>
 <context>
     <name>PhraseCardView</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 <context>
     <name>PhraseRecording</name>
     <message>
         <source>Your voice cannot be recorded: there is no folder to keep it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer votre voix : aucun dossier pour la conserver.</translation>
     </message>
 </context>
 <context>
     <name>PhraseWritePopView</name>
     <message>
         <source>Write what you hear</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrivez ce que vous entendez</translation>
     </message>
     <message>
         <source>Type the phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapez la phrase</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommencer</translation>
     </message>
 </context>
 <context>
     <name>QuizOutlineVC</name>
     <message>
         <source>Listen And Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter et choisir</translation>
     </message>
     <message>
         <source>Listen And Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter et écrire</translation>
     </message>
     <message>
         <source>Reorder Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Remettre les mots en ordre</translation>
     </message>
     <message>
         <source>Read Phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire à voix haute</translation>
     </message>
     <message>
         <source>Foreign Language -&gt; Mother Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Allemand → français</translation>
     </message>
     <message>
         <source>Mother Language -&gt; Foreign Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Français → allemand</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz</translation>
     </message>
     <message>
         <source>Unit Quiz</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz de l’unité</translation>
     </message>
 </context>
 <context>
     <name>RatingPromptDialog</name>
     <message>
         <source>Rate Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Noter Tolvane</translation>
     </message>
     <message>
         <source>If you enjoy learning with Tolvane, would you take a moment to rate it? Thank you for your support!</source>
-        <translation type="unfinished"></translation>
+        <translation>Si vous aimez apprendre avec Tolvane, prendriez-vous un instant pour le noter ? Merci de votre soutien !</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Noter</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
     <message>
         <source>No thanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Non merci</translation>
     </message>
 </context>
 <context>
     <name>ReadingFeedback</name>
     <message>
         <source>not judged</source>
-        <translation type="unfinished"></translation>
+        <translation>non évalué</translation>
     </message>
     <message>
         <source>heard well</source>
-        <translation type="unfinished"></translation>
+        <translation>bien entendu</translation>
     </message>
     <message>
         <source>unclear</source>
-        <translation type="unfinished"></translation>
+        <translation>peu clair</translation>
     </message>
     <message>
         <source>missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manquant</translation>
     </message>
 </context>
 <context>
     <name>RecordButton</name>
     <message>
         <source>Hold to speak</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenir pour parler</translation>
     </message>
 </context>
 <context>
     <name>SettingPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Listening</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoute</translation>
     </message>
     <message>
         <source>Playback speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de lecture</translation>
     </message>
     <message>
         <source>%1x</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>Mother language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue maternelle</translation>
     </message>
     <message>
         <source>Quizzes</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz</translation>
     </message>
     <message>
         <source>Test duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée du quiz</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n seconde</numerusform>
+            <numerusform>%n secondes</numerusform>
         </translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>Stockage</translation>
     </message>
     <message>
         <source>Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mo</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Send feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer un avis</translation>
     </message>
     <message>
         <source>Rate Tolvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Noter Tolvane</translation>
+    </message>
+</context>
+<context>
+    <name>ShadowingPage</name>
+    <message>
+        <source>Shadow</source>
+        <translation>Répéter</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>ShadowingVC</name>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Listen</source>
+        <translation>Écoutez</translation>
+    </message>
+    <message>
+        <source>Now you</source>
+        <translation>À vous</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Vérification</translation>
+    </message>
+    <message>
+        <source>Well done!</source>
+        <translation>Bravo !</translation>
     </message>
 </context>
 <context>
     <name>SpectrumCompView</name>
     <message>
         <source>No voice was heard in your recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune voix n’a été entendue dans votre enregistrement.</translation>
     </message>
     <message>
         <source>This phrase cannot be compared: its speech model could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de comparer cette phrase : son modèle vocal n’a pas pu être créé.</translation>
     </message>
     <message>
         <source>Your recording could not be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre enregistrement est introuvable.</translation>
     </message>
     <message>
         <source>Your recording is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre enregistrement est vide.</translation>
     </message>
     <message>
         <source>Your recording could not be read, or it is longer than a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre enregistrement est illisible ou dure plus d’une minute.</translation>
     </message>
     <message>
         <source>The original voice could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>La voix d’origine est illisible.</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Score</translation>
     </message>
 </context>
 <context>
     <name>SpectrumCompViewPopup</name>
     <message>
         <source>Original Voice</source>
-        <translation type="unfinished"></translation>
+        <translation>Voix d’origine</translation>
     </message>
     <message>
         <source>My Voice</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma voix</translation>
     </message>
 </context>
 <context>
     <name>TestDurPickerView</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Test Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée du quiz</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n seconde</numerusform>
+            <numerusform>%n secondes</numerusform>
         </translation>
     </message>
 </context>
@@ -447,185 +497,185 @@
     <name>UserInfoPage</name>
     <message>
         <source>User Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Mon profil</translation>
     </message>
     <message>
         <source>Experience</source>
-        <translation type="unfinished"></translation>
+        <translation>Expérience</translation>
     </message>
     <message>
         <source>How it was earned</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment elle a été gagnée</translation>
     </message>
 </context>
 <context>
     <name>UserInfoVC</name>
     <message>
         <source>Start App</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancements</translation>
     </message>
     <message>
         <source>Listen Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoutes</translation>
     </message>
     <message>
         <source>Write Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Écritures</translation>
     </message>
     <message>
         <source>Read Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Lectures</translation>
     </message>
     <message>
         <source>Quiz Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz faits</translation>
     </message>
     <message>
         <source>Quiz Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Points des quiz</translation>
     </message>
     <message>
         <source>Review App</source>
-        <translation type="unfinished"></translation>
+        <translation>Avis donné</translation>
     </message>
 </context>
 <context>
     <name>UserRecord</name>
     <message>
         <source>Your progress file was damaged, so Tolvane went back to the copy it kept. At most your last step is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre fichier de progression était endommagé : Tolvane a repris la copie conservée. Il manque au plus votre dernière étape.</translation>
     </message>
     <message>
         <source>Your progress file was damaged, so Tolvane repaired it: everything it could read is kept. The damaged file is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre fichier de progression était endommagé : Tolvane l’a réparé en gardant tout ce qu’il a pu lire. Le fichier endommagé est conservé sous le nom %1.</translation>
     </message>
     <message>
         <source>Your progress file was damaged and no good copy was left, so Tolvane started your progress again. The damaged file is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre fichier de progression était endommagé et aucune copie valide ne restait : Tolvane a repris votre progression à zéro. Le fichier endommagé est conservé sous le nom %1.</translation>
     </message>
 </context>
 <context>
     <name>VoAudioRecorder</name>
     <message>
         <source>There is no microphone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun micro n’est branché.</translation>
     </message>
     <message>
         <source>The microphone went away before you had said anything. Please record again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le micro a été débranché avant que vous ayez parlé. Veuillez enregistrer à nouveau.</translation>
     </message>
     <message>
         <source>The recording folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer le dossier d’enregistrement %1.</translation>
     </message>
 </context>
 <context>
     <name>VoListPlayerBoxView</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Previous phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phrase précédente</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus lent</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture ou pause</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus rapide</translation>
     </message>
     <message>
         <source>Next phrase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phrase suivante</translation>
     </message>
     <message>
         <source>Repeat mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode de répétition</translation>
     </message>
 </context>
 <context>
     <name>VoPSRecognizer</name>
     <message>
         <source>No voice detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune voix détectée</translation>
     </message>
     <message>
         <source>No correct words detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun mot correct détecté</translation>
     </message>
     <message>
         <source>Problems a bit in word sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Petit problème dans l’ordre des mots</translation>
     </message>
 </context>
 <context>
     <name>VoPlayerBoxView</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus lent</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture ou pause</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus rapide</translation>
     </message>
 </context>
 <context>
     <name>VoPopView</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>VoToolBarView</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
 </context>
 <context>
     <name>Word2WordPage</name>
     <message>
         <source>Foreign Language -&gt; Mother Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Allemand → français</translation>
     </message>
     <message>
         <source>Mother Language -&gt; Foreign Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Français → allemand</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider</translation>
     </message>
 </context>
 <context>
     <name>WordOrderAdjustPage</name>
     <message>
         <source>Reorder Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Remettre les mots en ordre</translation>
     </message>
     <message>
         <source>Drag the word to reorder it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser le mot pour le déplacer.</translation>
     </message>
     <message>
         <source>Submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider</translation>
     </message>
 </context>
 </TS>

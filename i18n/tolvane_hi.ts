@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>%1×</source>
-        <translation>%1 बार</translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>Pause</source>

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Controls
 import Tolvane
 
-// The bar at the top of every screen: a title, a back button and room for one button of the
-// screen's own on the right. The strip above the bar stands for the phone's status bar and
+// The bar at the top of every screen: a title, a back button and room for the screen's own
+// buttons (one or two) on the right. The strip above the bar stands for the phone's status bar and
 // takes the bar's colour.
 Rectangle {
     id: toolBar
@@ -33,7 +33,8 @@ Rectangle {
             id: titleLabel
             objectName: "toolBarTitle"
             x: (parent.width - width) / 2
-            width: 240 * LayoutMetrics.scaleX
+            // Centred, clear of up to two buttons on either side.
+            width: parent.width - 4 * toolBar.btnWidth - 4 * toolBar.marginW
             height: parent.height
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter

@@ -1,30 +1,10 @@
+#include "CommandHelp.h"
 #include "CommandLine.h"
 #include "content/VoLog.h"
 
 #include <QGuiApplication>
 #include <map>
 #include <memory>
-
-namespace {
-
-const char *const usage =
-    "usage: tolvane-cli COMMAND ...\n"
-    "  content list [--resources DIR] [--lang CODE] [--category ID]\n"
-    "  content build SRC OUT\n"
-    "  crypt encipher-plist IN [OUT] [--key KEY]\n"
-    "  crypt decipher-file IN [--key KEY]\n"
-    "  crypt encipher-data IN OUT [--key KEY]\n"
-    "  crypt decipher-data IN OUT [--key KEY]\n"
-    "  words [--upper] TEXT...\n"
-    "  record show [--record FILE]\n"
-    "  acoustic build --course DIR --model DIR --dict FILE --phones TABLE OUT\n"
-    "  lm --name NAME --out DIR WORD... [--hmm DIR]\n"
-    "  assess --text PHRASE RECORDING [--json] [--verbose] [--hmm DIR]\n"
-    "  score --text PHRASE --words FILE.json [--json]\n"
-    "  spectrum RECORDING --png OUT [--hmm DIR]\n"
-    "exit status: 0 done, 1 wrong usage, 2 bad input, 3 failure of the machine (disk, device)\n";
-
-} // namespace
 
 int CommandLine::usageError(const QString &message) const
 {
@@ -96,8 +76,22 @@ int main(int argc, char *argv[])
     QTextStream err(stderr);
     QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.isEmpty() || arguments.first() == QLatin1String("--help")) {
-        (arguments.isEmpty() ? err : out) << usage;
+        (arguments.isEmpty() ? err : out) << CommandHelp::overview();
         return arguments.isEmpty() ? ExitStatus::WrongUsage : ExitStatus::Done;
+    }
+    if (arguments.first() == QLatin1String("help")) {
+        if (arguments.size() == 1) {
+            out << CommandHelp::overview();
+            return ExitStatus::Done;
+        }
+        const QString help = CommandHelp::details(arguments.at(1));
+        if (help.isEmpty() || arguments.size() > 2) {
+            err << "tolvane-cli: help: no command \"" << arguments.mid(1).join(u' ') << "\"\n"
+                << CommandHelp::overview();
+            return ExitStatus::WrongUsage;
+        }
+        out << help;
+        return ExitStatus::Done;
     }
 
     const std::map<QString, int (*)(const CommandLine &)> commands{
@@ -114,7 +108,7 @@ int main(int argc, char *argv[])
     const QString name = arguments.takeFirst();
     const auto command = commands.find(name);
     if (command == commands.end()) {
-        err << "tolvane-cli: unknown command \"" << name << "\"\n" << usage;
+        err << "tolvane-cli: unknown command \"" << name << "\"\n" << CommandHelp::overview();
         return ExitStatus::WrongUsage;
     }
     return command->second(CommandLine{arguments, out, err});

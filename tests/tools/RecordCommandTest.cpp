@@ -5,6 +5,7 @@
 #include "content/VoCryptor.h"
 #include "content/VoFileUtil.h"
 
+#include <QRegularExpression>
 #include <limits>
 
 TEST(RecordShow, PrintsEveryCounterAndTheExperienceAndRefusesDamagedRecordsWithOneLine)
@@ -55,4 +56,33 @@ TEST(Words, OneWordALineKeepingApostrophes)
 {
     EXPECT_EQ(runCli({u"words"_s, u"--upper"_s, u"Wie"_s, u"geht's?"_s}).outLines(),
               (QStringList{u"WIE"_s, u"GEHT'S"_s}));
+}
+
+// Every command the overview lists has its own page naming each of its options; asking about a
+// command that does not exist is wrong usage.
+TEST(Help, EveryCommandInTheOverviewHasAPageWithItsOptions)
+{
+    const CliRun overview = runCli({u"--help"_s});
+    ASSERT_EQ(overview.exitCode, 0);
+    QStringList commands;
+    for (const QString &line : overview.outLines())
+        if (line.startsWith(u"  "_s) && !commands.contains(line.section(u' ', 2, 2)))
+            commands.append(line.section(u' ', 2, 2));
+    EXPECT_GE(commands.size(), 9) << overview.out.toStdString();
+    static const QRegularExpression option(u"--[a-z]+"_s);
+    for (const QString &command : std::as_const(commands)) {
+        const CliRun page = runCli({u"help"_s, command});
+        EXPECT_EQ(page.exitCode, 0) << command.toStdString();
+        EXPECT_TRUE(page.out.startsWith(u"usage: tolvane-cli "_s + command))
+            << page.out.toStdString();
+        const QString usage = page.out.section(u"\n\n"_s, 0, 0);
+        const QString options = page.out.section(u"options:"_s, 1);
+        for (const QRegularExpressionMatch &used : option.globalMatch(usage))
+            EXPECT_TRUE(options.contains(used.captured() + u' '))
+                << command.toStdString() << " does not describe " << used.captured().toStdString();
+    }
+    const CliRun unknown = runCli({u"help"_s, u"nosuch"_s});
+    EXPECT_EQ(unknown.exitCode, 1);
+    EXPECT_TRUE(unknown.err.startsWith(u"tolvane-cli: help: no command \"nosuch\""_s))
+        << unknown.err.toStdString();
 }

@@ -2,12 +2,15 @@
 #include "app/AppPaths.h"
 #include "app/UiLanguage.h"
 #include "app/UserRecord.h"
+#include "app/WindowPlacement.h"
 #include "content/AppCommon.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
+#include <QQuickWindow>
+#include <QSettings>
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TolvanePlugin)
@@ -46,7 +49,15 @@ int main(int argc, char *argv[])
         &engine, &QQmlApplicationEngine::objectCreationFailed, &app,
         [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/Tolvane/Main.qml")));
+    QSettings settings;
+    auto *window = engine.rootObjects().isEmpty()
+                       ? nullptr
+                       : qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    if (window)
+        WindowPlacement::restore(*window, settings);
     const int status = QGuiApplication::exec();
+    if (window)
+        WindowPlacement::remember(*window, settings);
     flushUserRecord();
     return status;
 }

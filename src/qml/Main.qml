@@ -58,4 +58,11 @@ ApplicationWindow {
     RatingPromptDialog {
         id: ratingPrompt
     }
+
+    // Quitting saves everything, as closing the window does.
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        context: Qt.ApplicationShortcut
+        onActivated: Qt.quit()
+    }
 }

@@ -2,6 +2,7 @@
 #include "app/AppPaths.h"
 #include "app/Preferences.h"
 #include "app/UserRecord.h"
+#include "app/WindowPlacement.h"
 #include "content/AppCommon.h"
 #include "content/QtPrinters.h"
 #include "content/UserInfoFile.h"
@@ -83,4 +84,15 @@ TEST_F(StartupTest, NonsensePreferencesReadAsDefaults)
         QSettings().setValue(Preferences::languageTypeKey, bad);
         EXPECT_EQ(preferences.languageType(), defaultLanguageCode()) << qPrintable(bad);
     }
+}
+
+// The window comes back where it was, unless that place is on a screen that has gone: then it
+// keeps its size and the window manager places it.
+TEST(WindowPlacement, TheWindowReturnsWhereItWasWhileThatPlaceIsOnAScreen)
+{
+    const QList<QRect> screens{{0, 0, 1920, 1080}, {1920, 0, 1280, 1024}};
+    const QRect onSecond(2000, 100, 400, 700);
+    EXPECT_EQ(WindowPlacement::placement(onSecond, screens), onSecond);
+    EXPECT_EQ(WindowPlacement::placement(onSecond, screens.mid(0, 1)), QRect(0, 0, 400, 700));
+    EXPECT_TRUE(WindowPlacement::placement(QRect(), screens).isNull()) << "nothing saved yet";
 }

@@ -321,6 +321,13 @@
     </message>
 </context>
 <context>
+    <name>ScoreText</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>SettingPage</name>
     <message>
         <source>Settings</source>

@@ -1,5 +1,6 @@
 #include "ScoreText.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 namespace ScoreText {
@@ -19,9 +20,14 @@ QString styled(const QString &label, int points, int outOf, bool boldPoints)
     // In the learner's digits: the default locale follows the screens' language.
     const QString pointsText = QLocale().toString(points);
     const QString digits = boldPoints ? QStringLiteral("<b>%1</b>").arg(pointsText) : pointsText;
-    return (label + QStringLiteral(": ")).toHtmlEscaped() +
-           QStringLiteral("<font color=\"%1\">%2</font>/%3")
-               .arg(color(points, outOf).name(), digits, QLocale().toString(outOf));
+    return labelled(label.toHtmlEscaped(),
+                    QStringLiteral("<font color=\"%1\">%2</font>/%3")
+                        .arg(color(points, outOf).name(), digits, QLocale().toString(outOf)));
+}
+
+QString labelled(const QString &label, const QString &value)
+{
+    return QCoreApplication::translate("ScoreText", "%1: %2").arg(label, value);
 }
 
 } // namespace ScoreText

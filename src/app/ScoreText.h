@@ -9,4 +9,7 @@ namespace ScoreText {
 [[nodiscard]] QColor color(int points, int outOf);
 /// label + ": " + points + "/" + outOf as rich text, the points coloured and, if asked, bold.
 [[nodiscard]] QString styled(const QString &label, int points, int outOf, bool boldPoints);
+/// "Label: value", with the separator each language writes (a full-width colon in Chinese and
+/// Japanese, a space before it in French).
+[[nodiscard]] QString labelled(const QString &label, const QString &value);
 } // namespace ScoreText

@@ -230,16 +230,18 @@ void BaseQuizViewController::updateScoreText(int s)
 QString BaseQuizViewController::progressText() const
 {
     const QLocale digits;
-    return tr("Progress") + QStringLiteral(": %1/%2").arg(digits.toString(m_progress),
-                                                          digits.toString(questionCount()));
+    return ScoreText::labelled(
+        tr("Progress"),
+        QStringLiteral("%1/%2").arg(digits.toString(m_progress), digits.toString(questionCount())));
 }
 
 QString BaseQuizViewController::scoreText() const
 {
     const QLocale digits;
-    return tr("Score") +
-           QStringLiteral(": %1/%2").arg(digits.toString(m_score),
-                                         digits.toString(pointsPerAnswer * questionCount()));
+    return ScoreText::labelled(
+        tr("Score"),
+        QStringLiteral("%1/%2").arg(digits.toString(m_score),
+                                    digits.toString(pointsPerAnswer * questionCount())));
 }
 
 QString BaseQuizViewController::scoreStyledText() const
